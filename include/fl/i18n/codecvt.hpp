@@ -1,0 +1,4 @@
+#ifndef FL_I18N_CODECVT_HPP
+#define FL_I18N_CODECVT_HPP
+
+#endif

@@ -1,0 +1,4 @@
+#ifndef FL_I18N_LCCTYPE_HPP
+#define FL_I18N_LCCTYPE_HPP
+
+#endif

@@ -1,0 +1,13 @@
+#ifndef FL_I18N_LCMGMT_HPP
+#define FL_I18N_LCMGMT_HPP
+
+#include <fl/i18n/lcmgmt/lcdb.hpp>
+#include <fl/i18n/lcmgmt/locale_name.hpp>
+#include <fl/i18n/lcmgmt/manager.hpp>
+#include <fl/i18n/lcmgmt/ov_lc_mgmt_exception.hpp>
+#include <fl/i18n/lcmgmt/ov_lc_opt_data_ctx.hpp>
+#include <fl/i18n/lcmgmt/ov_lc_util.hpp>
+#include <fl/i18n/lcmgmt/ov_locale.hpp>
+#include <fl/i18n/lcmgmt/ov_locale_impl.hpp>
+
+#endif

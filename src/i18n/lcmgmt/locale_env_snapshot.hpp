@@ -1,0 +1,43 @@
+#ifndef FL_I18N_LCMGMT_LOCALE_ENV_SNAPSHOT_HPP
+#define FL_I18N_LCMGMT_LOCALE_ENV_SNAPSHOT_HPP
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace fl {
+namespace i18n {
+namespace lcmgmt {
+
+constexpr int posix_category_count = 12;
+// The twelve category variables, then "LC_ALL" and "LANG".
+constexpr int locale_env_var_count = 14;
+
+// What start-up found in the environment and the C library, and what it decided.
+struct locale_env_snapshot {
+    std::map<std::string, std::string> override_values;
+    std::array<std::string, posix_category_count> xpg;
+    std::array<std::string, posix_category_count> initial_xpg;
+    std::array<std::string, locale_env_var_count> env;
+    std::string xpg_encoding;
+    std::array<std::pair<std::string, std::string>, 6> category_locale;
+    std::string encoding;
+    std::string terminal_encoding;
+    bool all_same = true;
+    std::string base_locale;
+    std::array<std::string, posix_category_count> category_names;
+    std::array<std::string, locale_env_var_count> new_env;
+    std::vector<std::string> error_events;
+    bool use_utf8_as_default = false;
+    // 0 unspecified, 1 "on", 2 "off".
+    std::int32_t l10n_control = 0;
+};
+
+}  // namespace lcmgmt
+}  // namespace i18n
+}  // namespace fl
+
+#endif

@@ -1,0 +1,74 @@
+#include <fl/i18n/lcmgmt/manager.hpp>
+
+#include "i18n/lcmgmt/manager_context.hpp"
+
+#include <boost/thread/locks.hpp>
+#include <boost/thread/once.hpp>
+
+namespace fl {
+namespace i18n {
+namespace {
+
+using lcmgmt::manager_context;
+using lock = boost::unique_lock<boost::mutex>;
+
+boost::once_flag initialize_once = BOOST_ONCE_INIT;
+
+void run_initialize() {
+    initLcMgmtSystem();
+}
+
+}  // namespace
+
+void initialize() {
+    boost::call_once(initialize_once, &run_initialize);
+}
+
+void initLcMgmtSystem() {
+    manager_context& context = manager_context::instance();
+    lock guard(context.mutex);
+    if (context.initialized) {
+        return;
+    }
+    // Set first, so a start-up that fails half way is never retried.
+    context.initialized = true;
+    lcmgmt::run_startup_sequence(context);
+}
+
+void lock_global_locale_setting() {
+    manager_context& context = manager_context::instance();
+    lock guard(context.mutex);
+    context.global_locale_locked = true;
+}
+
+void change_global_locale(OvLocale const& locale) {
+    manager_context& context = manager_context::instance();
+    lock guard(context.mutex);
+    if (context.global_locale_locked || !context.l10n_resource_enabled) {
+        return;
+    }
+    if (locale.getLocaleName(OvLocale::messages) == "en_US" &&
+        context.user_locale->getLocaleName(OvLocale::messages) != "en_US") {
+        lcmgmt::switch_to_english_messages(context);
+        context.l10n_resource_enabled = false;
+    }
+    context.global_locale_locked = true;
+}
+
+void disable_l10n_resource() {
+    manager_context& context = manager_context::instance();
+    lock guard(context.mutex);
+    if (context.l10n_resource_enabled) {
+        lcmgmt::switch_to_english_messages(context);
+        context.l10n_resource_enabled = false;
+    }
+}
+
+bool get_l10n_resource_status() {
+    manager_context& context = manager_context::instance();
+    lock guard(context.mutex);
+    return context.l10n_resource_enabled;
+}
+
+}  // namespace i18n
+}  // namespace fl

@@ -1,0 +1,81 @@
+#include "i18n/lcmgmt/manager_context.hpp"
+
+#include <boost/thread/once.hpp>
+
+#include <unicode/locid.h>
+#include <unicode/ucnv.h>
+
+namespace fl {
+namespace i18n {
+namespace lcmgmt {
+namespace {
+
+manager_context* the_manager = nullptr;
+boost::once_flag manager_once = BOOST_ONCE_INIT;
+
+std::unique_ptr<OvLocaleImpl> make_posix_locale(Lcdb const* database) {
+    auto locale = std::make_unique<OvLocaleImpl>(database);
+    for (int c = 0; c < OvLocaleImpl::category_count; ++c) {
+        locale->set_category("en_US_POSIX", "", static_cast<OvLocale::LcCategory>(c));
+    }
+    locale->set_encoding("US-ASCII");
+    return locale;
+}
+
+std::unique_ptr<OvLocaleImpl> make_default_user_locale(Lcdb const* database) {
+    auto locale = make_posix_locale(database);
+    locale->set_category("en_US", "", OvLocale::messages);
+    locale->set_terminal_encoding("US-ASCII");
+    return locale;
+}
+
+// Lets the default setting reach the manager while its own once region still runs; every other
+// thread waits at the once flag until the setting is complete.
+thread_local bool creating_manager = false;
+
+}  // namespace
+
+manager_context::manager_context() {
+    static char const* const category_names[] = {"ctype",   "collate",  "time",
+                                                 "numeric", "monetary", "messages"};
+    for (int c = 0; c < OvLocaleImpl::category_count; ++c) {
+        auto const category = static_cast<OvLocale::LcCategory>(c);
+        category_by_name[category_names[c]] = category;
+        name_by_category[category] = category_names[c];
+    }
+    static char const* const opt_data_names[] = {"jvmencoding",       "termencoding",
+                                                 "terminputencoding", "termoutputencoding",
+                                                 "papersize",         "unittype"};
+    for (int t = 0; t < 6; ++t) {
+        opt_data_type_by_name[opt_data_names[t]] = static_cast<OvLcOptDataCtx::LcOptDataType>(t);
+    }
+}
+
+void manager_context::create() {
+    creating_manager = true;
+    the_manager = new manager_context();
+    the_manager->apply_default_setting();
+    creating_manager = false;
+}
+
+void manager_context::apply_default_setting() {
+    classic_locale = make_posix_locale(&database);
+    system_locale = make_default_user_locale(&database);
+    user_locale = make_default_user_locale(&database);
+    global_locale = classic_locale.get();
+
+    ucnv_setDefaultName("US-ASCII");
+    UErrorCode ignored = U_ZERO_ERROR;
+    icu::Locale::setDefault(icu::Locale("en_US_POSIX"), ignored);
+}
+
+manager_context& manager_context::instance() {
+    if (!creating_manager) {
+        boost::call_once(manager_once, &manager_context::create);
+    }
+    return *the_manager;
+}
+
+}  // namespace lcmgmt
+}  // namespace i18n
+}  // namespace fl

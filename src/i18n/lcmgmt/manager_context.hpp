@@ -1,0 +1,72 @@
+#ifndef FL_I18N_LCMGMT_MANAGER_CONTEXT_HPP
+#define FL_I18N_LCMGMT_MANAGER_CONTEXT_HPP
+
+#include <fl/i18n/lcmgmt/lcdb.hpp>
+#include <fl/i18n/lcmgmt/ov_lc_opt_data_ctx.hpp>
+#include <fl/i18n/lcmgmt/ov_locale.hpp>
+#include <fl/i18n/lcmgmt/ov_locale_impl.hpp>
+
+#include "i18n/lcmgmt/locale_env_snapshot.hpp"
+
+#include <boost/thread/mutex.hpp>
+
+#include <atomic>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace fl {
+namespace i18n {
+namespace lcmgmt {
+
+class system_setting_reader;
+
+// The process-wide locale state. Created on first touch and never destroyed, so references to
+// its locales stay valid for the life of the process, even during static destruction.
+class manager_context {
+public:
+    // Creates the object and its default setting on first call; safe from any thread.
+    static manager_context& instance();
+
+    bool initialized = false;
+    std::int32_t status = 2;
+    std::string status_message;
+    Lcdb database;
+    locale_env_snapshot setting;
+    std::unique_ptr<OvLocaleImpl> classic_locale;
+    std::unique_ptr<OvLocaleImpl> system_locale;
+    std::unique_ptr<OvLocaleImpl> user_locale;
+    std::unique_ptr<OvLocaleImpl> english_messages_locale;
+    // Not owning: one of the locales above. Readers load it without a lock, so it is atomic.
+    std::atomic<OvLocaleImpl const*> global_locale{nullptr};
+    system_setting_reader* setting_reader = nullptr;
+    bool l10n_resource_enabled = true;
+    bool global_locale_locked = false;
+    boost::mutex mutex;
+    std::vector<std::string> warnings;
+    std::map<std::string, OvLocale::LcCategory> category_by_name;
+    std::map<OvLocale::LcCategory, std::string> name_by_category;
+    std::map<std::string, OvLcOptDataCtx::LcOptDataType> opt_data_type_by_name;
+
+    manager_context(manager_context const&) = delete;
+    manager_context& operator=(manager_context const&) = delete;
+
+private:
+    manager_context();
+    static void create();
+    void apply_default_setting();
+};
+
+// Gives messages in English from here on; the caller holds the mutex.
+void switch_to_english_messages(manager_context& context);
+
+// The start-up work of initLcMgmtSystem; the caller holds the mutex.
+void run_startup_sequence(manager_context& context);
+
+}  // namespace lcmgmt
+}  // namespace i18n
+}  // namespace fl
+
+#endif
