@@ -51,7 +51,7 @@ TEST(default_converter, each_thread_has_its_own_copy_closed_at_thread_end) {
     detail::default_converter_master();  // the master is a record too; make it first
     long const before = lcctype::code_converter_context::alive.load();
     std::vector<UConverter*> copies(thread_count, nullptr);
-    std::vector<bool> stable(thread_count, false);
+    std::vector<char> stable(thread_count, 0);
     long alive_while_running = 0;
     boost::barrier all_have_copies(thread_count + 1);
     boost::barrier may_end(thread_count + 1);
@@ -73,7 +73,7 @@ TEST(default_converter, each_thread_has_its_own_copy_closed_at_thread_end) {
     EXPECT_EQ(alive_while_running, before + thread_count);
     std::set<UConverter*> const distinct(copies.begin(), copies.end());
     EXPECT_EQ(distinct.size(), static_cast<std::size_t>(thread_count));
-    EXPECT_EQ(std::count(stable.begin(), stable.end(), true), thread_count);
+    EXPECT_EQ(std::count(stable.begin(), stable.end(), 1), thread_count);
     EXPECT_EQ(lcctype::code_converter_context::alive.load(), before);
 }
 
