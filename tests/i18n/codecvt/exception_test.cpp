@@ -59,16 +59,6 @@ TEST(codecvt_exception, each_leaf_survives_exception_ptr_with_its_class) {
     }
 }
 
-TEST(codecvt_exception, refused_encoding_name_survives_the_copy) {
-    try {
-        boost::rethrow_exception(boost::copy_exception(CvtInvalidEncodingName("x-bad")));
-    } catch (CvtInvalidEncodingName const& e) {
-        CvtInvalidEncodingName const copy(e);
-        EXPECT_EQ(copy.get_encoding_name(), "x-bad");
-        EXPECT_STREQ(copy.what(), "Invalid encoding name specified.");
-    }
-}
-
 }  // namespace
 }  // namespace i18n
 }  // namespace fl
