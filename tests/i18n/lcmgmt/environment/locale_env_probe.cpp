@@ -110,10 +110,9 @@ TEST_F(LocaleEnvironment, RewrittenEnvironment) {
         for (auto const& var : pairs(value)) {
             allowed[var.first] = true;
         }
-        for (char const* name :
-             {"LC_CTYPE", "LC_COLLATE", "LC_TIME", "LC_NUMERIC", "LC_MONETARY", "LC_MESSAGES",
-              "LC_PAPER", "LC_NAME", "LC_ADDRESS", "LC_TELEPHONE", "LC_MEASUREMENT",
-              "LC_IDENTIFICATION", "LC_ALL"}) {
+        for (char const* name : {"LC_CTYPE", "LC_COLLATE", "LC_TIME", "LC_NUMERIC", "LC_MONETARY",
+                                 "LC_MESSAGES", "LC_PAPER", "LC_NAME", "LC_ADDRESS", "LC_TELEPHONE",
+                                 "LC_MEASUREMENT", "LC_IDENTIFICATION", "LC_ALL"}) {
             EXPECT_EQ(std::getenv(name) != nullptr, allowed.count(name) != 0) << name;
         }
     }
