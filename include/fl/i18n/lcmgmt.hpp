@@ -1,7 +1,9 @@
 #ifndef FL_I18N_LCMGMT_HPP
 #define FL_I18N_LCMGMT_HPP
 
+#include <fl/i18n/lcmgmt/fallback_locales.hpp>
 #include <fl/i18n/lcmgmt/lcdb.hpp>
+#include <fl/i18n/lcmgmt/lcdb_entries.hpp>
 #include <fl/i18n/lcmgmt/locale_name.hpp>
 #include <fl/i18n/lcmgmt/manager.hpp>
 #include <fl/i18n/lcmgmt/ov_lc_mgmt_exception.hpp>
@@ -9,5 +11,6 @@
 #include <fl/i18n/lcmgmt/ov_lc_util.hpp>
 #include <fl/i18n/lcmgmt/ov_locale.hpp>
 #include <fl/i18n/lcmgmt/ov_locale_impl.hpp>
+#include <fl/i18n/lcmgmt/system_setting.hpp>
 
 #endif

@@ -1,3 +1,4 @@
+#include "i18n/lcmgmt/locale_env_apply.hpp"
 #include "i18n/lcmgmt/manager_context.hpp"
 
 namespace fl {
@@ -17,6 +18,7 @@ void switch_to_english_messages(manager_context& context) {
     context.english_messages_locale = std::move(english);
     context.global_locale.store(context.english_messages_locale.get());
     context.setting.l10n_control = 2;
+    switch_lc_messages(context.setting);
 }
 
 }  // namespace lcmgmt

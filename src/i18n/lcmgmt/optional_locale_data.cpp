@@ -6,8 +6,10 @@ namespace fl {
 namespace i18n {
 namespace lcmgmt {
 
-std::string jvm_encoding_name(Lcdb const* /*database*/, std::string const& encoding) {
-    return encoding;
+std::string jvm_encoding_name(Lcdb const* database, std::string const& encoding) {
+    // An encoding the database doesn't know is passed on as it is: the JVM may still know it.
+    char const* jvm = database != nullptr ? database->jvm_encoding_name(encoding) : nullptr;
+    return jvm != nullptr ? std::string(jvm) : encoding;
 }
 
 bool terminal_input_follows_output() {

@@ -1,10 +1,80 @@
+#include "common/ascii.hpp"
+#include "i18n/lcmgmt/locale_env_apply.hpp"
 #include "i18n/lcmgmt/manager_context.hpp"
+#include "i18n/lcmgmt/system_setting_reader.hpp"
+
+#include <unicode/locid.h>
+#include <unicode/ucnv.h>
+
+#include <cstdlib>
 
 namespace fl {
 namespace i18n {
 namespace lcmgmt {
+namespace {
 
-void run_startup_sequence(manager_context& /*context*/) {}
+char const* const override_variables[] = {"OVLOCALE_LCDATA_PATH", "OVLOCALE_LCDATA_FILENAME",
+                                          "OVLOCALE_L10N_CONTROL", "OVLOCALE_TERMINAL_ENCODING",
+                                          "OVLOCALE_USE_UTF8_AS_DEFAULT"};
+
+std::string override_value(locale_env_snapshot const& setting, char const* name) {
+    auto const found = setting.override_values.find(name);
+    return found == setting.override_values.end() ? std::string()
+                                                  : detail::to_ascii_lower(found->second);
+}
+
+// The library's own variables; OVLOCALE_TERMINAL_ENCODING is kept with the others but nothing
+// consults it.
+void read_override_variables(locale_env_snapshot& setting) {
+    for (char const* name : override_variables) {
+        char const* value = std::getenv(name);
+        if (value != nullptr && *value != '\0') {
+            setting.override_values[name] = value;
+        }
+    }
+    setting.use_utf8_as_default = override_value(setting, "OVLOCALE_USE_UTF8_AS_DEFAULT") == "true";
+    std::string const control = override_value(setting, "OVLOCALE_L10N_CONTROL");
+    setting.l10n_control = control == "on" ? 1 : control == "off" ? 2 : 0;
+}
+
+void read_system_setting(manager_context& context) {
+    if (context.setting_reader == nullptr) {
+        context.setting_reader =
+            new system_setting_reader(context.database, *context.system_locale, context.status,
+                                      context.status_message, context.setting);
+    }
+    context.setting_reader->read();
+}
+
+// The user locale is the system one, except that the library's own numbers never depend on it.
+void make_user_locale_global(manager_context& context) {
+    if (context.setting.l10n_control == 1) {
+        context.global_locale_locked = true;
+    }
+    context.user_locale = std::make_unique<OvLocaleImpl>(&context.database, *context.system_locale);
+    context.user_locale->set_category("en_US_POSIX", "", OvLocale::numeric);
+    context.global_locale.store(context.user_locale.get());
+    if (context.setting.l10n_control == 2) {
+        switch_to_english_messages(context);
+        context.l10n_resource_enabled = false;
+    }
+}
+
+void tell_icu(OvLocale const& global) {
+    ucnv_setDefaultName(global.getEncoding().c_str());
+    UErrorCode ignored = U_ZERO_ERROR;
+    icu::Locale::setDefault(icu::Locale(global.getLocaleName(OvLocale::ctype).c_str()), ignored);
+}
+
+}  // namespace
+
+void run_startup_sequence(manager_context& context) {
+    read_override_variables(context.setting);
+    read_system_setting(context);
+    make_user_locale_global(context);
+    apply_locale_setting(context.setting);
+    tell_icu(*context.global_locale.load());
+}
 
 }  // namespace lcmgmt
 }  // namespace i18n

@@ -5,8 +5,10 @@
 #include <fl/i18n/lcmgmt/ov_lc_opt_data_ctx.hpp>
 
 #include <boost/noncopyable.hpp>
+#include <boost/shared_ptr.hpp>
 
 #include <string>
+#include <vector>
 
 namespace fl {
 namespace i18n {
@@ -45,6 +47,26 @@ public:
     // Case-insensitive; an unknown name throws OvLcDataNotFound.
     static LcCategory getLcCategory(std::string const& name);
     static std::string getLcCategoryName(LcCategory category);
+
+    // New locales. A name is "language[-Script][_REGION][.encoding][@modifier]" or an alias such
+    // as "C"; without an encoding the locale gets the database's default one. An empty name
+    // throws OvLcInvLcArgument, an unknown locale or encoding OvLcInvLcName with the offending
+    // text as its detail. Changing a category never changes the encoding.
+    static boost::shared_ptr<OvLocale> createLocale(std::string const& name);
+    static boost::shared_ptr<OvLocale> createLocale(OvLocale const& source);
+    // The library's own number formatting: numeric is "en_US_POSIX".
+    static boost::shared_ptr<OvLocale> createLocaleWithCForNumeric(std::string const& name);
+    static boost::shared_ptr<OvLocale> createLocale(std::string const& name,
+                                                    std::vector<CategoryContext> const& changes);
+    static boost::shared_ptr<OvLocale> createLocale(OvLocale const& source,
+                                                    std::vector<CategoryContext> const& changes);
+    static boost::shared_ptr<OvLocale> createLocale(std::string const& name, LcCategory category,
+                                                    std::string const& categoryName);
+    static boost::shared_ptr<OvLocale> createLocale(OvLocale const& source, LcCategory category,
+                                                    std::string const& categoryName);
+    // A copy of source with one category taken from other.
+    static boost::shared_ptr<OvLocale> createLocale(OvLocale const& source, LcCategory category,
+                                                    OvLocale const& other);
 };
 
 }  // namespace i18n
