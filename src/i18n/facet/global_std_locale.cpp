@@ -4,9 +4,12 @@
 #include <fl/i18n/facet/numpunct_facet.hpp>
 #include <fl/i18n/lcmgmt/ov_locale.hpp>
 
+#include "common/visible_call_once.hpp"
+
 #include <boost/thread/lock_types.hpp>
 #include <boost/thread/mutex.hpp>
-#include <boost/thread/once.hpp>
+
+#include <sstream>
 
 namespace fl {
 namespace i18n {
@@ -34,8 +37,17 @@ void make_holder() {
 }
 
 std_locale_holder& the_holder() {
-    boost::call_once(holder_once, &make_holder);
+    fl::detail::visible_call_once(holder_once, &make_holder);
     return *holder;
+}
+
+// The standard library makes the number punctuation cache of a locale at first use and lets its
+// readers find it without ordering them. Making it here, under the mutex, leaves every later
+// user of the locale, in any thread, a reader only.
+void prime_number_cache(std::locale const& locale) {
+    std::basic_ostringstream<char16_t> stream;
+    stream.imbue(locale);
+    stream << 0;
 }
 
 std::locale build_locale(unsigned int mask) {
@@ -46,6 +58,7 @@ std::locale build_locale(unsigned int mask) {
     }
     if (mask & num_put) {
         result = std::locale(result, new std::num_put<char16_t>(0));
+        prime_number_cache(result);
     }
     return result;
 }
@@ -53,7 +66,7 @@ std::locale build_locale(unsigned int mask) {
 }  // namespace
 
 void init_global_std_locale(unsigned int mask) {
-    boost::call_once(mutex_once, &make_mutex);
+    fl::detail::visible_call_once(mutex_once, &make_mutex);
     boost::unique_lock<boost::mutex> lock(*holder_mutex);
     std_locale_holder& held = the_holder();
     if (held.initialized) {
