@@ -52,10 +52,16 @@ manager_context::manager_context() {
 }
 
 void manager_context::create() {
-    creating_manager = true;
+    // Cleared on every path: a failed default setting must not leave this thread bypassing the
+    // once flag with a half-made manager.
+    struct creating_scope {
+        creating_scope() { creating_manager = true; }
+        ~creating_scope() { creating_manager = false; }
+        creating_scope(creating_scope const&) = delete;
+        creating_scope& operator=(creating_scope const&) = delete;
+    } const scope;
     the_manager = new manager_context();
     the_manager->apply_default_setting();
-    creating_manager = false;
 }
 
 void manager_context::apply_default_setting() {
