@@ -12,7 +12,7 @@ void print_text_entries(std::ostream& out, std::vector<report::entry> const& ent
             out << indent << e.key << ":\n";
             print_text_entries(out, e.children, depth + 1);
         } else {
-            out << indent << e.key << ": " << e.value << "\n";
+            out << indent << e.key << ":" << (e.value.empty() ? "" : " ") << e.value << "\n";
         }
     }
 }
