@@ -109,8 +109,11 @@ TYPED_TEST(LcMgmtException, IsClonedIntoAnotherThreadWithItsType) {
     EXPECT_TRUE(caught_as_leaf);
 }
 
-TEST(LcMgmtExceptionFromLibrary, IsClonedWithItsType) {
-    // Without the library's wrapping, current_exception() would give an unknown_exception.
+TEST(LcMgmtExceptionFromLibrary, IsThrownCloneable) {
+    // The wrapper is what lets boost::exception_ptr copy the exception without std's help.
+    EXPECT_THROW(fl::i18n::OvLocale::getLcCategory("no such category"),
+                 boost::exception_detail::clone_base);
+
     boost::exception_ptr captured;
     try {
         fl::i18n::OvLocale::getLcCategory("no such category");
