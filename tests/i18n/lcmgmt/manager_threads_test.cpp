@@ -15,6 +15,7 @@
 #include <set>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -44,34 +45,16 @@ void run_together(std::vector<std::function<void()>> const& bodies) {
     }
 }
 
-struct observation {
-    OvLocale const* global = nullptr;
-    OvLocale const* classic = nullptr;
-    OvLocale const* system = nullptr;
-    int status = -1;
-    std::string status_message;
-    std::string messages;
-    std::size_t information_keys = 0;
-    bool resources = false;
-
-    bool operator==(observation const& o) const {
-        return global == o.global && classic == o.classic && system == o.system &&
-               status == o.status && status_message == o.status_message && messages == o.messages &&
-               information_keys == o.information_keys && resources == o.resources;
-    }
-};
+// What one thread sees of the manager; every thread must see the same.
+using observation = std::tuple<OvLocale const*, OvLocale const*, OvLocale const*, int, std::string,
+                               std::string, std::size_t, bool>;
 
 observation observe() {
-    observation o;
-    o.global = &OvLocale::global();
-    o.classic = &OvLocale::classic();
-    o.system = &OvLocale::system();
-    o.status = OvLcUtil::getLcStatus();
-    o.status_message = OvLcUtil::getInitStatusMsg();
-    o.messages = o.global->getLocaleName(OvLocale::getLcCategory("MESSAGES"));
-    o.information_keys = OvLcUtil::getLocaleInformation().size();
-    o.resources = fl::i18n::get_l10n_resource_status();
-    return o;
+    OvLocale const& global = OvLocale::global();
+    return observation(
+        &global, &OvLocale::classic(), &OvLocale::system(), OvLcUtil::getLcStatus(),
+        OvLcUtil::getInitStatusMsg(), global.getLocaleName(OvLocale::getLcCategory("MESSAGES")),
+        OvLcUtil::getLocaleInformation().size(), fl::i18n::get_l10n_resource_status());
 }
 
 TEST(ManagerThreads, FirstTouchCreatesOneManager) {
@@ -84,9 +67,9 @@ TEST(ManagerThreads, FirstTouchCreatesOneManager) {
     for (observation const& o : seen) {
         EXPECT_TRUE(o == seen[0]);
     }
-    EXPECT_EQ(seen[0].status, 2);
-    EXPECT_EQ(seen[0].global, seen[0].classic);
-    EXPECT_EQ(seen[0].messages, "en_US");
+    EXPECT_EQ(std::get<3>(seen[0]), 2);
+    EXPECT_EQ(std::get<0>(seen[0]), std::get<1>(seen[0])) << "global isn't classic";
+    EXPECT_EQ(std::get<5>(seen[0]), "en_US");
 }
 
 TEST(ManagerThreads, StartUpRunsOnceWhoeverAsks) {

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 #include <boost/exception_ptr.hpp>
 
-#include <memory>
 #include <string>
 #include <thread>
 
@@ -79,13 +78,6 @@ TYPED_TEST(LcMgmtException, IsCaughtAsTheBaseAndAsStdException) {
     } catch (std::exception const& e) {
         EXPECT_STREQ(e.what(), row<TypeParam>::message);
     }
-}
-
-TYPED_TEST(LcMgmtException, CopyOwnsItsText) {
-    auto original = std::make_unique<TypeParam>(row<TypeParam>::make());
-    TypeParam const copy(*original);
-    original.reset();
-    expect_row<TypeParam>(copy);
 }
 
 TYPED_TEST(LcMgmtException, IsClonedIntoAnotherThreadWithItsType) {

@@ -117,17 +117,6 @@ INSTANTIATE_TEST_SUITE_P(OneChange, LocaleEquality, testing::ValuesIn(equality_c
                              return name + "_" + std::to_string(info.index);
                          });
 
-TEST(LocaleCopy, KeepsEveryCategoryAndModifierAsWritten) {
-    auto const source = distinct_locale();
-    OvLocaleImpl const copy(nullptr, *source);
-    for (int c = 0; c < category_count; ++c) {
-        EXPECT_EQ(copy.getLocaleName(category(c)), source->getLocaleName(category(c)));
-        EXPECT_EQ(copy.getModifier(category(c)), "@m" + std::to_string(c));
-    }
-    EXPECT_EQ(copy.getEncoding(), "UTF-8");
-    EXPECT_TRUE(copy == *source);
-}
-
 TEST(LocaleCopy, TakesTheTerminalEncodingOrElseTheEncoding) {
     auto const source = distinct_locale();
     EXPECT_EQ(OvLocaleImpl(nullptr, *source).terminal_encoding(), "UTF-8");
@@ -200,29 +189,18 @@ TEST(LocaleCategories, OutOfRangeIsDataNotFound) {
     }
 }
 
-struct terminal_case {
-    char const* terminal;
-    OvLcOptDataCtx::LcOptDataType type;
-    char const* expected;
-};
-
-class TerminalEncodings : public testing::TestWithParam<terminal_case> {};
-
-TEST_P(TerminalEncodings, FallBackToTheEncoding) {
+TEST(OptionalData, TerminalEncodingsFallBackToTheEncoding) {
     OvLocaleImpl locale(nullptr);
     locale.set_encoding("ISO-8859-1");
-    locale.set_terminal_encoding(GetParam().terminal);
-    EXPECT_EQ(text(locale.getOptData(GetParam().type)), GetParam().expected);
+    for (char const* terminal : {"", "UTF-8"}) {
+        locale.set_terminal_encoding(terminal);
+        std::string const expected = *terminal ? terminal : "ISO-8859-1";
+        for (auto type : {OvLcOptDataCtx::termencoding, OvLcOptDataCtx::termoutputencoding,
+                          OvLcOptDataCtx::terminputencoding}) {
+            EXPECT_EQ(text(locale.getOptData(type)), expected) << type << " '" << terminal << "'";
+        }
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Types, TerminalEncodings,
-    testing::Values(terminal_case{"", OvLcOptDataCtx::termencoding, "ISO-8859-1"},
-                    terminal_case{"", OvLcOptDataCtx::termoutputencoding, "ISO-8859-1"},
-                    terminal_case{"", OvLcOptDataCtx::terminputencoding, "ISO-8859-1"},
-                    terminal_case{"UTF-8", OvLcOptDataCtx::termencoding, "UTF-8"},
-                    terminal_case{"UTF-8", OvLcOptDataCtx::termoutputencoding, "UTF-8"},
-                    terminal_case{"UTF-8", OvLcOptDataCtx::terminputencoding, "UTF-8"}));
 
 TEST(OptionalData, PaperSizeAndUnitsFollowTheTimeCategory) {
     OvLocaleImpl german_time(nullptr);
