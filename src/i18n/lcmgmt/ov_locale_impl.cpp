@@ -15,7 +15,12 @@ OvLocaleImpl::OvLocaleImpl(lcmgmt::Lcdb const* database, OvLocale const& source)
     : database_(database) {
     for (int c = 0; c < category_count; ++c) {
         auto const category = static_cast<LcCategory>(c);
-        set_category(source.getLocaleName(category), source.getModifier(category), category);
+        std::string modifier = source.getModifier(category);
+        // getModifier gives "@mod"; the stored form is without the marker.
+        if (!modifier.empty() && modifier[0] == '@') {
+            modifier.erase(0, 1);
+        }
+        set_category(source.getLocaleName(category), modifier, category);
     }
     encoding_ = source.getEncoding();
     terminal_encoding_ = boost::get<std::string>(source.getOptData(OvLcOptDataCtx::termencoding));
@@ -68,7 +73,8 @@ std::string OvLocaleImpl::getRegion(LcCategory category) const {
 }
 
 std::string OvLocaleImpl::getModifier(LcCategory category) const {
-    return entry(category).modifier;
+    std::string const& modifier = entry(category).modifier;
+    return modifier.empty() ? modifier : "@" + modifier;
 }
 
 std::string OvLocaleImpl::getEncoding() const {

@@ -35,7 +35,7 @@ public:
     OvLcOptDataCtx::value_type getOptData(OvLcOptDataCtx::LcOptDataType type) const override;
 
     // Messages never carry "en_US_POSIX": catalogs have no such locale, so it is stored as
-    // "en_US". The modifier is kept as getModifier gives it back: "@" before each one, or empty.
+    // "en_US".
     void set_category(std::string const& name, std::string const& modifier, LcCategory category);
     void set_encoding(std::string const& encoding) { encoding_ = encoding; }
     void set_terminal_encoding(std::string const& encoding) { terminal_encoding_ = encoding; }
