@@ -21,9 +21,9 @@ using fl::i18n::lcmgmt::manager_context;
 std::unique_ptr<OvLocaleImpl> locale_with_messages(std::string const& messages) {
     auto locale = std::make_unique<OvLocaleImpl>(nullptr);
     for (int c = 0; c < OvLocaleImpl::category_count; ++c) {
-        locale->set_category("de_DE", "@euro", static_cast<OvLocale::LcCategory>(c));
+        locale->set_category("de_DE", "euro", static_cast<OvLocale::LcCategory>(c));
     }
-    locale->set_category(messages, "@euro", OvLocale::messages);
+    locale->set_category(messages, "euro", OvLocale::messages);
     locale->set_encoding("ISO-8859-15");
     locale->set_terminal_encoding("UTF-8");
     return locale;

@@ -22,12 +22,12 @@ OvLocale::LcCategory category(int c) {
 }
 
 // A locale whose category c is named names[c] with modifier "@m<c>", so a mix-up between
-// categories shows.
+// categories shows. Modifiers are stored without their marker, which getModifier adds.
 std::unique_ptr<OvLocaleImpl> distinct_locale() {
     static char const* const names[] = {"de_DE", "fr_FR", "sr-Latn_RS", "C", "en_GB", "ja_JP"};
     auto locale = std::make_unique<OvLocaleImpl>(nullptr);
     for (int c = 0; c < category_count; ++c) {
-        locale->set_category(names[c], "@m" + std::to_string(c), category(c));
+        locale->set_category(names[c], "m" + std::to_string(c), category(c));
     }
     locale->set_encoding("UTF-8");
     return locale;
@@ -92,12 +92,12 @@ std::vector<change_case> equality_cases() {
     for (int c = 0; c < category_count; ++c) {
         cases.push_back({"name",
                          [c](OvLocaleImpl& l) {
-                             l.set_category("it_IT", l.getModifier(category(c)), category(c));
+                             l.set_category("it_IT", "m" + std::to_string(c), category(c));
                          },
                          false});
         cases.push_back({"modifier",
                          [c](OvLocaleImpl& l) {
-                             l.set_category(l.getLocaleName(category(c)), "@other", category(c));
+                             l.set_category(l.getLocaleName(category(c)), "other", category(c));
                          },
                          false});
     }
@@ -137,7 +137,7 @@ TEST(LocaleCopy, ReadsAnyOvLocaleThroughItsInterface) {
         }
         std::string getLanguage(LcCategory) const override { return "pt"; }
         std::string getRegion(LcCategory) const override { return "BR"; }
-        std::string getModifier(LcCategory c) const override { return c == time ? "@x" : ""; }
+        std::string getModifier(LcCategory c) const override { return c == time ? "@a@@b" : ""; }
         std::string getEncoding() const override { return "ISO-8859-1"; }
         OvLcOptDataCtx::value_type getOptData(OvLcOptDataCtx::LcOptDataType) const override {
             return std::string("UTF-8");
@@ -146,7 +146,7 @@ TEST(LocaleCopy, ReadsAnyOvLocaleThroughItsInterface) {
     OvLocaleImpl const copy(nullptr, source);
     EXPECT_EQ(copy.getLocaleName(OvLocale::ctype), "pt_BR");
     EXPECT_EQ(copy.getLocaleName(OvLocale::messages), "en_US");
-    EXPECT_EQ(copy.getModifier(OvLocale::time), "@x");
+    EXPECT_EQ(copy.getModifier(OvLocale::time), "@a@@b");
     EXPECT_EQ(copy.getModifier(OvLocale::ctype), "");
     EXPECT_EQ(copy.getEncoding(), "ISO-8859-1");
     EXPECT_EQ(copy.terminal_encoding(), "UTF-8");
@@ -163,7 +163,7 @@ class LanguageAndRegion : public testing::TestWithParam<language_case> {};
 TEST_P(LanguageAndRegion, ComeFromTheCategoryName) {
     OvLocaleImpl locale(nullptr);
     locale.set_category("xx", "", OvLocale::ctype);
-    locale.set_category(GetParam().name, "@euro", OvLocale::monetary);
+    locale.set_category(GetParam().name, "euro", OvLocale::monetary);
     EXPECT_EQ(locale.getLanguage(OvLocale::monetary), GetParam().language);
     EXPECT_EQ(locale.getRegion(OvLocale::monetary), GetParam().region);
 }
