@@ -2,8 +2,9 @@
 
 #include "i18n/lcmgmt/manager_context.hpp"
 
+#include "common/call_once.hpp"
+
 #include <boost/thread/locks.hpp>
-#include <boost/thread/once.hpp>
 
 namespace fl {
 namespace i18n {
@@ -12,7 +13,7 @@ namespace {
 using lcmgmt::manager_context;
 using lock = boost::unique_lock<boost::mutex>;
 
-boost::once_flag initialize_once = BOOST_ONCE_INIT;
+fl::detail::once_region initialize_once;
 
 void run_initialize() {
     initLcMgmtSystem();
@@ -21,7 +22,7 @@ void run_initialize() {
 }  // namespace
 
 void initialize() {
-    boost::call_once(initialize_once, &run_initialize);
+    fl::detail::call_once(initialize_once, &run_initialize);
 }
 
 void initLcMgmtSystem() {
