@@ -2,7 +2,7 @@
 
 #include "i18n/lcmgmt/manager_context.hpp"
 
-#include "common/call_once.hpp"
+#include "common/visible_call_once.hpp"
 
 #include <boost/thread/locks.hpp>
 
@@ -13,7 +13,7 @@ namespace {
 using lcmgmt::manager_context;
 using lock = boost::unique_lock<boost::mutex>;
 
-fl::detail::once_region initialize_once;
+boost::once_flag initialize_once = BOOST_ONCE_INIT;
 
 void run_initialize() {
     initLcMgmtSystem();
@@ -22,7 +22,7 @@ void run_initialize() {
 }  // namespace
 
 void initialize() {
-    fl::detail::call_once(initialize_once, &run_initialize);
+    fl::detail::visible_call_once(initialize_once, &run_initialize);
 }
 
 void initLcMgmtSystem() {

@@ -1,6 +1,6 @@
 #include "i18n/lcmgmt/manager_context.hpp"
 
-#include "common/call_once.hpp"
+#include "common/visible_call_once.hpp"
 
 #include <unicode/locid.h>
 #include <unicode/ucnv.h>
@@ -11,7 +11,7 @@ namespace lcmgmt {
 namespace {
 
 manager_context* the_manager = nullptr;
-fl::detail::once_region manager_once;
+boost::once_flag manager_once = BOOST_ONCE_INIT;
 
 std::unique_ptr<OvLocaleImpl> make_posix_locale(Lcdb const* database) {
     auto locale = std::make_unique<OvLocaleImpl>(database);
@@ -77,7 +77,7 @@ void manager_context::apply_default_setting() {
 
 manager_context& manager_context::instance() {
     if (!creating_manager) {
-        fl::detail::call_once(manager_once, &manager_context::create);
+        fl::detail::visible_call_once(manager_once, &manager_context::create);
     }
     return *the_manager;
 }
