@@ -121,6 +121,34 @@ public:
     }
 };
 
+class counting_encoder : public fl::i18n::converter<char, char16_t> {
+public:
+    mutable int calls = 0;
+    std::size_t do_get_destination_size(char16_t const*, std::size_t size) const override {
+        return size;
+    }
+    std::string do_convert(char16_t const* source, std::size_t size) const override {
+        ++calls;
+        return std::string(source, source + size);
+    }
+    std::size_t do_convert(char*, std::size_t, char16_t const*, std::size_t size) const override {
+        return size;
+    }
+};
+
+TEST(AccessForms, CallersConverterSeesOnlyNonEmptyText) {
+    namespace d = fs::detail;
+    counting_encoder encoder;
+    EXPECT_EQ(d::make_native_access_form(u"", encoder), "");
+    EXPECT_EQ(d::make_native_access_form_with_cleanup(u"", encoder), "");
+    EXPECT_EQ(encoder.calls, 0);
+    EXPECT_EQ(d::make_native_access_form(u"a//b/", encoder), "a//b/");
+    EXPECT_EQ(d::make_native_access_form_with_cleanup(u"a//b/", encoder), "a/b");
+    EXPECT_EQ(encoder.calls, 2);
+    EXPECT_EQ(d::make_native_access_form_with_cleanup(u"//x//"), "/x");
+    EXPECT_EQ(d::from_filesystem("a/b"), u"a/b");
+}
+
 TEST(BoostPathBridge, ConvertsWithoutCleaningUp) {
     EXPECT_EQ(fs::make_path(u"a//b/", 5).native(), "a//b/");
     EXPECT_EQ(fs::to_ustring(boost::filesystem::path("x//y/")), u"x//y/");

@@ -285,6 +285,20 @@ TEST_F(FileOperations, ResolvingPaths) {
     EXPECT_TRUE(fs::change_current_path(upath(previous)));
 }
 
+// Before start-up the file system encoding is US-ASCII: a name it can't hold reaches the disk
+// with the substitution character, consistently, and no conversion fails.
+TEST_F(FileOperations, UnencodableNamesAreSubstitutedNotRefused) {
+    ustring const name = at("caf") + u"\u00e9";
+    std::string const on_disk = fs::detail::to_filesystem(name);
+    ASSERT_EQ(on_disk.size(), bytes("caf").size() + 1);
+    EXPECT_NE(on_disk.back(), '\xE9');
+    fs::create_directory(name);
+    EXPECT_TRUE(sfs::is_directory(on_disk));
+    EXPECT_TRUE(fs::exists(upath(name)));
+    fs::remove(name);
+    EXPECT_FALSE(sfs::exists(on_disk));
+}
+
 // Root passes every permission check, so denial is seen under an ordinary user id. access()
 // checks the real id, so both change; the saved id stays root to come back.
 class unprivileged {
