@@ -10,23 +10,27 @@
 #include <boost/thread/lock_types.hpp>
 #include <boost/thread/once.hpp>
 
+#include <atomic>
+
 namespace fl {
 namespace filesystem {
 namespace detail {
 namespace {
 
 boost::once_flag mutex_once = BOOST_ONCE_INIT;
-boost::mutex* the_mutex = nullptr;
+// Never deleted. Published through an atomic as well, since the once-flag commits inside Boost's
+// compiled library where a race detector can't follow it.
+std::atomic<boost::mutex*> the_mutex{nullptr};
 
 void create_mutex() {
-    the_mutex = new boost::mutex();
+    the_mutex.store(new boost::mutex(), std::memory_order_release);
 }
 
 }  // namespace
 
 boost::mutex& current_directory_mutex() {
     boost::call_once(mutex_once, &create_mutex);
-    return *the_mutex;
+    return *the_mutex.load(std::memory_order_acquire);
 }
 
 std::string current_directory_bytes() {

@@ -7,12 +7,16 @@
 
 #include <boost/thread/once.hpp>
 
+#include <atomic>
+
 namespace fl {
 namespace filesystem {
 namespace {
 
 boost::once_flag install_path_once = BOOST_ONCE_INIT;
-fl::i18n::ustring* install_path = nullptr;
+// Never deleted. Published through an atomic as well, since the once-flag commits inside Boost's
+// compiled library where a race detector can't follow it.
+std::atomic<fl::i18n::ustring*> install_path{nullptr};
 
 // Up from the module's file to the directory that holds "bin" (or "bin/x64linux"); empty when
 // there is none on the way.
@@ -53,15 +57,17 @@ std::string module_file() {
 void compute_install_path() {
     std::string const root = root_above_bin(module_file());
     codecvt_filesystem_to_ustring const decoder(true);
-    install_path = new fl::i18n::ustring(
-        root.empty() ? fl::i18n::ustring() : decoder.do_convert(root.data(), root.size()));
+    install_path.store(
+        new fl::i18n::ustring(root.empty() ? fl::i18n::ustring()
+                                           : decoder.do_convert(root.data(), root.size())),
+        std::memory_order_release);
 }
 
 }  // namespace
 
 fl::i18n::ustring get_install_path() {
     boost::call_once(install_path_once, &compute_install_path);
-    return *install_path;
+    return *install_path.load(std::memory_order_acquire);
 }
 
 }  // namespace filesystem
