@@ -12,6 +12,7 @@
 
 #include <unicode/uversion.h>
 
+#include <atomic>
 #include <memory>
 
 namespace fl {
@@ -22,13 +23,16 @@ namespace {
 
 using lcctype::code_converter_context;
 
+// The once-flags publish through Boost's compiled library, where a race detector cannot see
+// it; the pointers are atomic so that the ordering is also stated where it can.
+
 boost::once_flag master_once = BOOST_ONCE_INIT;
 // Never deleted: clones may be asked for during static destruction.
-code_converter_context* master = nullptr;
+std::atomic<code_converter_context*> master{nullptr};
 
 boost::once_flag thread_copies_once = BOOST_ONCE_INIT;
 // Never deleted either, so that the key outlives every thread that still holds a copy.
-boost::thread_specific_ptr<code_converter_context>* thread_copies = nullptr;
+std::atomic<boost::thread_specific_ptr<code_converter_context>*> thread_copies{nullptr};
 
 UConverter* open_global_encoding(UErrorCode& error) {
     error = U_ZERO_ERROR;
@@ -42,11 +46,12 @@ void make_master() {
         // Nothing is thrown: each clone falls back to opening the encoding on its own.
         opened.reset();
     }
-    master = new code_converter_context(std::move(opened));
+    master.store(new code_converter_context(std::move(opened)), std::memory_order_release);
 }
 
 void make_thread_copies() {
-    thread_copies = new boost::thread_specific_ptr<code_converter_context>();
+    thread_copies.store(new boost::thread_specific_ptr<code_converter_context>(),
+                        std::memory_order_release);
 }
 
 UConverter* clone(UConverter const* original, UErrorCode& error) {
@@ -62,7 +67,7 @@ UConverter* clone(UConverter const* original, UErrorCode& error) {
 
 UConverter* default_converter_master() {
     boost::call_once(master_once, &make_master);
-    return master->converter.get();
+    return master.load(std::memory_order_acquire)->converter.get();
 }
 
 UConverter* clone_default_converter() {
@@ -83,11 +88,13 @@ UConverter* clone_default_converter() {
 
 UConverter* thread_default_converter() {
     boost::call_once(thread_copies_once, &make_thread_copies);
-    code_converter_context* copy = thread_copies->get();
+    boost::thread_specific_ptr<code_converter_context>* const copies =
+        thread_copies.load(std::memory_order_acquire);
+    code_converter_context* copy = copies->get();
     if (copy == nullptr) {
         std::unique_ptr<code_converter_context> fresh(
             new code_converter_context(unique_converter(clone_default_converter())));
-        thread_copies->reset(fresh.get());
+        copies->reset(fresh.get());
         copy = fresh.release();
     }
     return copy->converter.get();

@@ -1,0 +1,100 @@
+#include <fl/i18n/codecvt/codecvt_modified_utf8.hpp>
+
+#include <fl/i18n/codecvt/codecvt_exception.hpp>
+
+#include "common/throw_exception.hpp"
+#include "i18n/codecvt/conversion_error.hpp"
+#include "i18n/codecvt/convert_with_estimate.hpp"
+
+#include <unicode/ustring.h>
+
+namespace fl {
+namespace i18n {
+
+namespace {
+
+constexpr std::size_t icu_max_length = 0x7FFFFFFF;
+constexpr std::size_t icu_max_utf16_source = 0x3FFFFFFF;
+constexpr UChar32 replacement = 0xFFFD;
+
+void check_sizes(std::size_t size, std::size_t capacity) {
+    if (size > icu_max_length || capacity > icu_max_length) {
+        fl::detail::throw_exception(CvtSizeTooLarge());
+    }
+}
+
+bool is_success(UErrorCode error) {
+    return error <= U_ZERO_ERROR || error == U_BUFFER_OVERFLOW_ERROR;
+}
+
+std::size_t to_modified_utf8(char* destination, std::size_t capacity, char16_t const* source,
+                             std::size_t size) {
+    check_sizes(size, capacity);
+    UErrorCode error = U_ZERO_ERROR;
+    int32_t length = 0;
+    u_strToJavaModifiedUTF8(destination, static_cast<int32_t>(capacity), &length, source,
+                            static_cast<int32_t>(size), &error);
+    if (is_success(error)) {
+        return static_cast<std::size_t>(length);
+    }
+    if (size > icu_max_utf16_source) {
+        fl::detail::throw_exception(CvtSizeTooLarge());
+    }
+    detail::throw_conversion_error(error);
+}
+
+std::size_t from_modified_utf8(char16_t* destination, std::size_t capacity, char const* source,
+                               std::size_t size) {
+    check_sizes(size, capacity);
+    UErrorCode error = U_ZERO_ERROR;
+    int32_t length = 0;
+    u_strFromJavaModifiedUTF8WithSub(destination, static_cast<int32_t>(capacity), &length, source,
+                                     static_cast<int32_t>(size), replacement, nullptr, &error);
+    if (is_success(error)) {
+        return static_cast<std::size_t>(length);
+    }
+    detail::throw_conversion_error(error);
+}
+
+}  // namespace
+
+codecvt_modified_utf8_to_ustring::~codecvt_modified_utf8_to_ustring() = default;
+
+std::size_t codecvt_modified_utf8_to_ustring::do_get_destination_size(
+    char const* source, std::size_t source_size) const {
+    return from_modified_utf8(nullptr, 0, source, source_size);
+}
+
+std::basic_string<char16_t> codecvt_modified_utf8_to_ustring::do_convert(
+    char const* source, std::size_t source_size) const {
+    return detail::convert_with_estimate<char16_t>(source, source_size, &from_modified_utf8);
+}
+
+std::size_t codecvt_modified_utf8_to_ustring::do_convert(char16_t* destination,
+                                                         std::size_t destination_size,
+                                                         char const* source,
+                                                         std::size_t source_size) const {
+    return from_modified_utf8(destination, destination_size, source, source_size);
+}
+
+codecvt_ustring_to_modified_utf8::~codecvt_ustring_to_modified_utf8() = default;
+
+std::size_t codecvt_ustring_to_modified_utf8::do_get_destination_size(
+    char16_t const* source, std::size_t source_size) const {
+    return to_modified_utf8(nullptr, 0, source, source_size);
+}
+
+std::string codecvt_ustring_to_modified_utf8::do_convert(char16_t const* source,
+                                                         std::size_t source_size) const {
+    return detail::convert_with_estimate<char>(source, source_size, &to_modified_utf8);
+}
+
+std::size_t codecvt_ustring_to_modified_utf8::do_convert(char* destination,
+                                                         std::size_t destination_size,
+                                                         char16_t const* source,
+                                                         std::size_t source_size) const {
+    return to_modified_utf8(destination, destination_size, source, source_size);
+}
+
+}  // namespace i18n
+}  // namespace fl
