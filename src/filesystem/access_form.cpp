@@ -2,7 +2,9 @@
 
 #include <fl/filesystem/path_algebra.hpp>
 
-#include "filesystem/filename_conversion.hpp"
+#include <fl/filesystem/filename_conversion.hpp>
+
+#include "i18n/codecvt/default_converter.hpp"
 
 namespace fl {
 namespace filesystem {
@@ -18,7 +20,7 @@ std::string convert_with(fl::i18n::ustring const& text,
 }  // namespace
 
 std::string make_native_access_form(fl::i18n::ustring const& text) {
-    return to_filesystem_bytes(text);
+    return to_filesystem(text);
 }
 
 std::string make_native_access_form(fl::i18n::ustring const& text,
@@ -28,7 +30,7 @@ std::string make_native_access_form(fl::i18n::ustring const& text,
 
 std::string make_native_access_form_with_cleanup(fl::i18n::ustring const& text) {
     auto const clean = make_native_form(text, true);
-    return clean.empty() ? std::string() : to_filesystem_bytes(clean);
+    return clean.empty() ? std::string() : to_filesystem(clean);
 }
 
 std::string make_native_access_form_with_cleanup(fl::i18n::ustring const& text,
@@ -36,12 +38,14 @@ std::string make_native_access_form_with_cleanup(fl::i18n::ustring const& text,
     return convert_with(make_native_form(text, true), cvt);
 }
 
+// Every operation on a path converts here, on the calling thread's own converter: no lock, and
+// no failure on what the encoding can't hold.
 std::string to_filesystem(fl::i18n::ustring const& text) {
-    return to_filesystem_bytes(text);
+    return path_to_bytes(fl::i18n::detail::thread_default_converter(), text.data(), text.size());
 }
 
 fl::i18n::ustring from_filesystem(std::string const& bytes) {
-    return from_filesystem_bytes(bytes);
+    return bytes_to_path(fl::i18n::detail::thread_default_converter(), bytes.data(), bytes.size());
 }
 
 }  // namespace detail

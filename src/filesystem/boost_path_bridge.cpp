@@ -1,6 +1,8 @@
 #include <fl/filesystem/boost_path_bridge.hpp>
 
-#include "filesystem/filename_conversion.hpp"
+#include <fl/filesystem/access_form.hpp>
+#include <fl/filesystem/filename_conversion.hpp>
+
 #include "i18n/codecvt/default_converter.hpp"
 
 namespace fl {
@@ -27,11 +29,11 @@ boost::filesystem::path& append(boost::filesystem::path& path, char16_t const* t
 }
 
 fl::i18n::ustring to_ustring(boost::filesystem::path const& path) {
-    return detail::from_filesystem_bytes(path.native());
+    return detail::from_filesystem(path.native());
 }
 
 fl::i18n::ustring to_generic_ustring(boost::filesystem::path const& path) {
-    return detail::from_filesystem_bytes(path.generic_string());
+    return detail::from_filesystem(path.generic_string());
 }
 
 fl::i18n::ustring to_generic_ustring(boost::filesystem::path const& path,

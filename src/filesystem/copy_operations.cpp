@@ -1,12 +1,12 @@
 #include <fl/filesystem/modifying_operations.hpp>
-#include <fl/filesystem/path_resolution.hpp>
 
+#include <fl/filesystem/access_form.hpp>
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/filesystem_error.hpp>
 #include <fl/filesystem/fsys_exception.hpp>
+#include <fl/filesystem/path_resolution.hpp>
 
 #include "common/throw_exception.hpp"
-#include "filesystem/filename_conversion.hpp"
 #include "filesystem/link_primitives.hpp"
 #include "filesystem/operation_arguments.hpp"
 #include "filesystem/posix_platform.hpp"
@@ -43,7 +43,7 @@ void copy_at(std::string const& from, std::string const& to) {
         if (target.empty()) {
             fl::detail::throw_exception(InvalidArgument());
         }
-        detail::create_symlink_at(detail::to_filesystem_bytes(target), to);
+        detail::create_symlink_at(detail::to_filesystem(target), to);
         return;
     }
     if (type == file_status::reparse_file) {

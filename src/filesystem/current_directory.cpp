@@ -1,9 +1,9 @@
 #include "filesystem/current_directory.hpp"
 
+#include <fl/filesystem/access_form.hpp>
 #include <fl/filesystem/filesystem_error.hpp>
 #include <fl/filesystem/path_resolution.hpp>
 
-#include "filesystem/filename_conversion.hpp"
 #include "filesystem/operation_arguments.hpp"
 #include "filesystem/posix_platform.hpp"
 
@@ -73,7 +73,7 @@ bool change_current_path(upath const& path) {
 }
 
 fl::i18n::ustring get_current_path() {
-    return detail::from_filesystem_bytes(detail::current_directory_bytes());
+    return detail::from_filesystem(detail::current_directory_bytes());
 }
 
 }  // namespace filesystem

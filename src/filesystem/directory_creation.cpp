@@ -1,10 +1,10 @@
 #include <fl/filesystem/modifying_operations.hpp>
 
+#include <fl/filesystem/access_form.hpp>
 #include <fl/filesystem/filesystem_error.hpp>
 #include <fl/filesystem/fsys_exception.hpp>
 
 #include "common/throw_exception.hpp"
-#include "filesystem/filename_conversion.hpp"
 #include "filesystem/operation_arguments.hpp"
 #include "filesystem/posix_platform.hpp"
 
@@ -59,7 +59,7 @@ void create_directories_at(fl::i18n::ustring const& text) {
     if (has_parent_element(text)) {
         fl::detail::throw_exception(InvalidArgument());
     }
-    std::string const path = detail::to_filesystem_bytes(text);
+    std::string const path = detail::to_filesystem(text);
     for (std::size_t i = 1; i < path.size(); ++i) {
         if (path[i] != '/') {
             continue;

@@ -1,11 +1,11 @@
-#include "filesystem/filename_conversion.hpp"
+#include <fl/filesystem/filename_conversion.hpp>
 
 #include <fl/filesystem/fsys_exception.hpp>
 
 #include "common/throw_exception.hpp"
 #include "i18n/codecvt/convert_with_estimate.hpp"
-#include "i18n/codecvt/default_converter.hpp"
 
+#include <unicode/ucnv.h>
 #include <boost/numeric/conversion/cast.hpp>
 
 #include <cstdint>
@@ -77,14 +77,6 @@ fl::i18n::ustring bytes_to_path(UConverter* converter, char const* source, std::
                     std::size_t size) {
             return convert_bytes_to_path(converter, destination, capacity, from, size);
         });
-}
-
-std::string to_filesystem_bytes(fl::i18n::ustring const& text) {
-    return path_to_bytes(fl::i18n::detail::thread_default_converter(), text.data(), text.size());
-}
-
-fl::i18n::ustring from_filesystem_bytes(std::string const& bytes) {
-    return bytes_to_path(fl::i18n::detail::thread_default_converter(), bytes.data(), bytes.size());
 }
 
 }  // namespace detail

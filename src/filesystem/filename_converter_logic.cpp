@@ -1,9 +1,10 @@
 #include "filesystem/filename_converter_logic.hpp"
 
+#include <fl/filesystem/access_form.hpp>
+#include <fl/filesystem/filename_conversion.hpp>
 #include <fl/filesystem/fsys_exception.hpp>
 
 #include "common/throw_exception.hpp"
-#include "filesystem/filename_conversion.hpp"
 #include "i18n/codecvt/default_converter.hpp"
 #include "i18n/codecvt/unique_converter.hpp"
 

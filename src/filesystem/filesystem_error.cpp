@@ -1,9 +1,9 @@
 #include <fl/filesystem/filesystem_error.hpp>
 
+#include <fl/filesystem/access_form.hpp>
 #include <fl/filesystem/fsys_exception.hpp>
 
 #include "common/throw_exception.hpp"
-#include "filesystem/filename_conversion.hpp"
 
 #include <cerrno>
 
@@ -26,7 +26,7 @@ ustring widen_bytes(std::string const& bytes) {
 
 ustring report_text(std::string const& native_path) {
     try {
-        return detail::from_filesystem_bytes(native_path);
+        return detail::from_filesystem(native_path);
     } catch (...) {
         return widen_bytes(native_path);
     }

@@ -1,11 +1,11 @@
 #include <fl/filesystem/modifying_operations.hpp>
 
+#include <fl/filesystem/access_form.hpp>
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/filesystem_error.hpp>
 #include <fl/filesystem/fsys_exception.hpp>
 
 #include "common/throw_exception.hpp"
-#include "filesystem/filename_conversion.hpp"
 #include "filesystem/link_primitives.hpp"
 #include "filesystem/operation_arguments.hpp"
 #include "filesystem/posix_platform.hpp"
@@ -46,7 +46,7 @@ fl::i18n::ustring read_symlink_at(std::string const& path) {
     if (error != 0) {
         throw_filesystem_error(error, path);
     }
-    return make_native_form(from_filesystem_bytes(target), true);
+    return make_native_form(from_filesystem(target), true);
 }
 
 }  // namespace detail
@@ -64,7 +64,7 @@ void copy_symlink_at(std::string const& from, std::string const& to) {
     }
     fl::i18n::ustring const target = detail::read_symlink_at(from);
     if (!target.empty()) {
-        detail::create_symlink_at(detail::to_filesystem_bytes(target), to);
+        detail::create_symlink_at(detail::to_filesystem(target), to);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "filesystem/operation_arguments.hpp"
 
-#include "filesystem/filename_conversion.hpp"
+#include <fl/filesystem/access_form.hpp>
 
 namespace fl {
 namespace filesystem {
@@ -15,11 +15,11 @@ fl::i18n::ustring const& native_text(upath const& path) {
 }
 
 std::string system_bytes(fl::i18n::ustring const& path) {
-    return to_filesystem_bytes(native_text(path));
+    return to_filesystem(native_text(path));
 }
 
 std::string system_bytes(upath const& path) {
-    return to_filesystem_bytes(path.pathname());
+    return to_filesystem(path.pathname());
 }
 
 }  // namespace detail

@@ -1,11 +1,11 @@
 #include <fl/filesystem/path_resolution.hpp>
 
+#include <fl/filesystem/access_form.hpp>
 #include <fl/filesystem/filesystem_error.hpp>
 #include <fl/filesystem/fsys_exception.hpp>
 
 #include "common/throw_exception.hpp"
 #include "filesystem/current_directory.hpp"
-#include "filesystem/filename_conversion.hpp"
 #include "filesystem/operation_arguments.hpp"
 #include "filesystem/posix_platform.hpp"
 
@@ -47,7 +47,7 @@ fl::i18n::ustring canonical_at(std::string const& path, std::string const& base)
     if (error != 0) {
         throw_filesystem_error(error, full);
     }
-    return detail::from_filesystem_bytes(resolved);
+    return detail::from_filesystem(resolved);
 }
 
 fl::i18n::ustring absolute_text(fl::i18n::ustring const& path, fl::i18n::ustring const& base) {

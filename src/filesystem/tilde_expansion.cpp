@@ -1,6 +1,7 @@
 #include "filesystem/tilde_expansion.hpp"
 
-#include "filesystem/filename_conversion.hpp"
+#include <fl/filesystem/access_form.hpp>
+
 #include "filesystem/posix_platform.hpp"
 
 namespace fl {
@@ -36,7 +37,7 @@ std::string expand_tilde(std::string const& text) {
 }
 
 fl::i18n::ustring expand_tilde(fl::i18n::ustring const& text) {
-    return from_filesystem_bytes(expand_tilde(to_filesystem_bytes(text)));
+    return from_filesystem(expand_tilde(to_filesystem(text)));
 }
 
 }  // namespace detail

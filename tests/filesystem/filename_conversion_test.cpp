@@ -1,6 +1,6 @@
 #include <fl/filesystem.hpp>
 
-#include "filesystem/filename_conversion.hpp"
+#include <fl/filesystem/filename_conversion.hpp>
 #include "i18n/codecvt/unique_converter.hpp"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,10 @@
 #ifndef FL_FILESYSTEM_FILENAME_CONVERSION_HPP
 #define FL_FILESYSTEM_FILENAME_CONVERSION_HPP
 
+#include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
 
-#include <unicode/ucnv.h>
+#include <unicode/ucnv_err.h>
 
 #include <cstddef>
 #include <string>
@@ -20,18 +21,18 @@ namespace detail {
 // 0x7FFFFFFF raise boost::numeric::positive_overflow. ICU errors become FileNameTooLarge (a
 // source above 0x3FFFFFFF units, this direction only), CvtInvalidCharacter or
 // FileNameConversionFailure.
-std::size_t convert_path_to_bytes(UConverter* converter, char* destination, std::size_t capacity,
-                                  char16_t const* source, std::size_t length);
-std::size_t convert_bytes_to_path(UConverter* converter, char16_t* destination,
-                                  std::size_t capacity, char const* source, std::size_t length);
+FL_I18N_API std::size_t convert_path_to_bytes(UConverter* converter, char* destination,
+                                              std::size_t capacity, char16_t const* source,
+                                              std::size_t length);
+FL_I18N_API std::size_t convert_bytes_to_path(UConverter* converter, char16_t* destination,
+                                              std::size_t capacity, char const* source,
+                                              std::size_t length);
 
 // Whole conversions: a stack buffer for short names, an exact second pass only when needed.
-std::string path_to_bytes(UConverter* converter, char16_t const* source, std::size_t length);
-fl::i18n::ustring bytes_to_path(UConverter* converter, char const* source, std::size_t length);
-
-// The same on the calling thread's default converter, as every operation on a path uses it.
-std::string to_filesystem_bytes(fl::i18n::ustring const& text);
-fl::i18n::ustring from_filesystem_bytes(std::string const& bytes);
+FL_I18N_API std::string path_to_bytes(UConverter* converter, char16_t const* source,
+                                      std::size_t length);
+FL_I18N_API fl::i18n::ustring bytes_to_path(UConverter* converter, char const* source,
+                                            std::size_t length);
 
 }  // namespace detail
 }  // namespace filesystem
