@@ -232,19 +232,4 @@ TYPED_TEST(PathAlgebra, ConcatenatePathname) {
     }
 }
 
-TEST(PathAlgebraForms, GenericAndAccessFormsAreCopies) {
-    EXPECT_EQ(d::make_generic_form(fstest::u("a//b/")), fstest::u("a//b/"));
-    EXPECT_EQ(d::make_access_form(std::string("\xff/x")), std::string("\xff/x"));
-}
-
-TEST(PathAlgebraForms, ConstantsOfTheGrammar) {
-    using fl::filesystem::upath_constant;
-    EXPECT_EQ(fl::i18n::ustring(upath_constant::WILD_CARD), u"*");
-    EXPECT_EQ(fl::i18n::ustring(upath_constant::PARENT_DIRECTORY), u"..");
-    EXPECT_EQ(fl::i18n::ustring(upath_constant::CURRENT_DIRECTORY), u".");
-    EXPECT_EQ(fl::i18n::ustring(upath_constant::FILE_EXTENSION_SEPARATOR), u".");
-    EXPECT_EQ(fl::i18n::ustring(upath_constant::PATHNAME_SEPARATOR), u"/");
-    EXPECT_EQ(fl::i18n::ustring(upath_constant::GENERIC_PATHNAME_SEPARATOR), u"/");
-}
-
 }  // namespace
