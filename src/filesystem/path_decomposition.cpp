@@ -2,6 +2,8 @@
 
 #include "filesystem/path_grammar.hpp"
 
+#include <string_view>
+
 namespace fl {
 namespace filesystem {
 namespace detail {
@@ -33,36 +35,43 @@ std::basic_string<CharT> parent_path(std::basic_string<CharT> const& text) {
     return text.substr(0, p);
 }
 
+// Where the filename starts: behind the last separator, or at 0 when there is none or the text
+// is the root alone (whose filename is "/").
+template <class CharT>
+std::size_t filename_start(std::basic_string<CharT> const& text) {
+    auto const p = text.rfind(grammar::units<CharT>::separator);
+    return (p == std::basic_string<CharT>::npos || text.size() == 1) ? 0 : p + 1;
+}
+
 template <class CharT>
 std::basic_string<CharT> filename(std::basic_string<CharT> const& text) {
-    auto const p = text.rfind(grammar::units<CharT>::separator);
-    if (p == std::basic_string<CharT>::npos || text.size() == 1) {
-        return text;
+    return text.substr(filename_start(text));
+}
+
+// The last dot of the filename that can start an extension; npos for none, and for "." and "..".
+// Works in place, so only the piece asked for is ever copied.
+template <class CharT>
+std::size_t extension_dot(std::basic_string<CharT> const& text, std::size_t start) {
+    std::basic_string_view<CharT> const name(text.data() + start, text.size() - start);
+    CharT const dot = grammar::units<CharT>::dot;
+    if (name.empty() || (name.size() <= 2 && name.find_first_not_of(dot) == name.npos)) {
+        return std::basic_string<CharT>::npos;
     }
-    return text.substr(p + 1);
+    auto const d = name.rfind(dot);
+    return d == name.npos ? std::basic_string<CharT>::npos : start + d;
 }
 
 template <class CharT>
 std::basic_string<CharT> stem(std::basic_string<CharT> const& text) {
-    auto name = filename(text);
-    if (name.empty() || grammar::is_dot_name(name)) {
-        return name;
-    }
-    auto const d = name.rfind(grammar::units<CharT>::dot);
-    if (d != std::basic_string<CharT>::npos) {
-        name.resize(d);
-    }
-    return name;
+    std::size_t const start = filename_start(text);
+    std::size_t const d = extension_dot(text, start);
+    return text.substr(start, d == std::basic_string<CharT>::npos ? d : d - start);
 }
 
 template <class CharT>
 std::basic_string<CharT> extension(std::basic_string<CharT> const& text) {
-    auto const name = filename(text);
-    if (name.empty() || grammar::is_dot_name(name)) {
-        return {};
-    }
-    auto const d = name.rfind(grammar::units<CharT>::dot);
-    return d == std::basic_string<CharT>::npos ? std::basic_string<CharT>() : name.substr(d + 1);
+    std::size_t const d = extension_dot(text, filename_start(text));
+    return d == std::basic_string<CharT>::npos ? std::basic_string<CharT>() : text.substr(d + 1);
 }
 
 template <class CharT>
