@@ -1,8 +1,7 @@
 #include <fl/filesystem/access_form.hpp>
 
-#include <fl/filesystem/path_algebra.hpp>
-
 #include <fl/filesystem/filename_conversion.hpp>
+#include <fl/filesystem/path_algebra.hpp>
 
 #include "i18n/codecvt/default_converter.hpp"
 
