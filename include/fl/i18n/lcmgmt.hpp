@@ -2,6 +2,7 @@
 #define FL_I18N_LCMGMT_HPP
 
 #include <fl/i18n/lcmgmt/fallback_locales.hpp>
+#include <fl/i18n/lcmgmt/javavm_init_context.hpp>
 #include <fl/i18n/lcmgmt/lcdb.hpp>
 #include <fl/i18n/lcmgmt/lcdb_entries.hpp>
 #include <fl/i18n/lcmgmt/locale_name.hpp>

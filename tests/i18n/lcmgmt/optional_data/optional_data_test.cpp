@@ -1,0 +1,142 @@
+#include <fl/i18n/lcmgmt.hpp>
+
+#include "i18n/lcmgmt/manager_context.hpp"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace {
+
+using fl::i18n::OvLcOptDataCtx;
+using fl::i18n::OvLocale;
+using fl::i18n::OvLocaleImpl;
+
+struct type_case {
+    char const* name;
+    int type;  // -1: unknown
+};
+
+type_case const type_cases[] = {
+    {"jvmencoding", 0},
+    {"TermEncoding", 1},
+    {"terminputencoding", 2},
+    {"TERMOUTPUTENCODING", 3},
+    {"PaperSize", 4},
+    {"unittype", 5},
+    {"size", -1},
+    {"", -1},
+    {"papersize ", -1},
+};
+
+TEST(OptDataType, LooksUpNamesWithoutCase) {
+    for (type_case const& c : type_cases) {
+        if (c.type < 0) {
+            EXPECT_THROW(OvLcOptDataCtx::getOptDataType(c.name), fl::i18n::OvLcDataNotFound)
+                << c.name;
+        } else {
+            EXPECT_EQ(OvLcOptDataCtx::getOptDataType(c.name), c.type) << c.name;
+        }
+    }
+}
+
+std::unique_ptr<OvLocaleImpl> make_locale(std::string const& time, std::string const& others,
+                                          std::string const& encoding,
+                                          std::string const& terminal) {
+    auto locale =
+        std::make_unique<OvLocaleImpl>(&fl::i18n::lcmgmt::manager_context::instance().database);
+    for (int c = 0; c < OvLocaleImpl::category_count; ++c) {
+        auto const category = static_cast<OvLocale::LcCategory>(c);
+        locale->set_category(category == OvLocale::time ? time : others, "", category);
+    }
+    locale->set_encoding(encoding);
+    locale->set_terminal_encoding(terminal);
+    return locale;
+}
+
+std::string text(OvLocale const& locale, OvLcOptDataCtx::LcOptDataType type) {
+    return boost::get<std::string>(locale.getOptData(type));
+}
+
+struct measure_case {
+    char const* time;
+    char const* others;
+    OvLcOptDataCtx::LcPaperSizeType paper;
+    OvLcOptDataCtx::LcUnitType unit;
+};
+
+// Only the time category counts, whatever the others say.
+measure_case const measure_cases[] = {
+    {"de_DE", "en_US", OvLcOptDataCtx::paper_a4, OvLcOptDataCtx::unit_metric},
+    {"en_US", "de_DE", OvLcOptDataCtx::paper_other, OvLcOptDataCtx::unit_us},
+    {"en_GB", "en_US", OvLcOptDataCtx::paper_a4, OvLcOptDataCtx::unit_british},
+    {"en_CA", "en_CA", OvLcOptDataCtx::paper_other, OvLcOptDataCtx::unit_metric},
+    {"ja_JP", "en_US", OvLcOptDataCtx::paper_a4, OvLcOptDataCtx::unit_metric},
+    {"en_US_POSIX", "fr_FR", OvLcOptDataCtx::paper_other, OvLcOptDataCtx::unit_us},
+};
+
+TEST(OptData, PaperSizeAndUnitsFollowTheTimeCategory) {
+    for (measure_case const& c : measure_cases) {
+        auto const locale = make_locale(c.time, c.others, "UTF-8", "");
+        EXPECT_EQ(boost::get<OvLcOptDataCtx::LcPaperSizeType>(
+                      locale->getOptData(OvLcOptDataCtx::papersize)),
+                  c.paper)
+            << c.time;
+        EXPECT_EQ(
+            boost::get<OvLcOptDataCtx::LcUnitType>(locale->getOptData(OvLcOptDataCtx::unittype)),
+            c.unit)
+            << c.time;
+    }
+}
+
+struct encoding_case {
+    char const* encoding;
+    char const* terminal;
+    char const* jvm;
+    char const* term;
+};
+
+encoding_case const encoding_cases[] = {
+    {"windows-1252", "", "Cp1252", "windows-1252"},  // the database's JVM name
+    {"Shift_JIS", "UTF-8", "MS932", "UTF-8"},        // a terminal encoding of its own wins
+    {"UTF-8", "", "UTF-8", "UTF-8"},                 // no JVM name: the standard name
+    {"x-unknown", "", "x-unknown", "x-unknown"},     // unknown to the database: passed on
+};
+
+TEST(OptData, EncodingsForJvmAndTerminal) {
+    for (encoding_case const& c : encoding_cases) {
+        auto const locale = make_locale("de_DE", "de_DE", c.encoding, c.terminal);
+        EXPECT_EQ(text(*locale, OvLcOptDataCtx::jvmencoding), c.jvm) << c.encoding;
+        EXPECT_EQ(text(*locale, OvLcOptDataCtx::termencoding), c.term) << c.encoding;
+        EXPECT_EQ(text(*locale, OvLcOptDataCtx::terminputencoding), c.term) << c.encoding;
+        EXPECT_EQ(text(*locale, OvLcOptDataCtx::termoutputencoding), c.term) << c.encoding;
+    }
+}
+
+TEST(OptData, ClassicTerminalEncodingIsItsEncoding) {
+    EXPECT_EQ(text(OvLocale::classic(), OvLcOptDataCtx::termencoding), "US-ASCII");
+}
+
+TEST(OptData, ValueOutsideTheEnumThrows) {
+    for (int bad : {-1, 6, 100}) {
+        EXPECT_THROW(
+            OvLocale::classic().getOptData(static_cast<OvLcOptDataCtx::LcOptDataType>(bad)),
+            fl::i18n::OvLcInvLcArgument)
+            << bad;
+    }
+}
+
+TEST(LocaleInformation, ErrorEventsAreNumberedFromOne) {
+    // Nothing in the library records events yet; the report must still number what is there.
+    auto& events = fl::i18n::lcmgmt::manager_context::instance().setting.error_events;
+    events = {"first", "second"};
+    auto const info = fl::i18n::OvLcUtil::getLocaleInformation();
+    events.clear();
+    EXPECT_EQ(info.size(), 41u);
+    EXPECT_EQ(info.at("ErrorEvent1"), "first");
+    EXPECT_EQ(info.at("ErrorEvent2"), "second");
+    EXPECT_EQ(info.count("ErrorEvent0"), 0u);
+}
+
+}  // namespace
