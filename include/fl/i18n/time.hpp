@@ -1,4 +1,7 @@
 #ifndef FL_I18N_TIME_HPP
 #define FL_I18N_TIME_HPP
 
+#include <fl/i18n/time/environment.hpp>
+#include <fl/i18n/time/module_path.hpp>
+
 #endif
