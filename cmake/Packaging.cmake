@@ -20,5 +20,10 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/ovi18nConfigVersion.cmake
 install(FILES ${PROJECT_BINARY_DIR}/ovi18nConfig.cmake ${PROJECT_BINARY_DIR}/ovi18nConfigVersion.cmake
     DESTINATION ${OVI18N_CMAKE_DIR})
 
+# The .pc file finds its prefix from where it lies, so an install moved with DESTDIR or
+# `cmake --install --prefix` still describes itself correctly.
+file(RELATIVE_PATH OVI18N_PC_PREFIX_FROM_PCDIR
+    ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" OVI18N_PC_PREFIX_FROM_PCDIR "${OVI18N_PC_PREFIX_FROM_PCDIR}")
 configure_file(cmake/ovi18n.pc.in ${PROJECT_BINARY_DIR}/ovi18n.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/ovi18n.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)

@@ -2,7 +2,7 @@
 
 #include <fl/i18n.hpp>
 
-#include <cstring>
+#include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -25,14 +25,15 @@ int usage_error(std::string const& what) {
     return 2;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    std::vector<std::string> args(argv + 1, argv + argc);
+int run(std::vector<std::string> const& args) {
     if (args.empty()) {
         return usage_error("missing command");
     }
     std::string const& command = args[0];
+    bool const is_option = command == "--help" || command == "-h" || command == "--version";
+    if (is_option && args.size() > 1) {
+        return usage_error("unknown argument '" + args[1] + "'");
+    }
     if (command == "--help" || command == "-h") {
         print_help(std::cout);
         return 0;
@@ -55,4 +56,16 @@ int main(int argc, char** argv) {
         return ovi18n_tool::run_locale(std::cout, json);
     }
     return usage_error("unknown command '" + command + "'");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(std::vector<std::string>(argv + 1, argv + argc));
+    } catch (std::exception const& e) {
+        // Start-up can fail on a malformed OVLOCALE_ variable; say so in one line, not an abort.
+        std::cerr << "ovi18n: " << e.what() << "\n";
+        return 1;
+    }
 }

@@ -5,14 +5,15 @@
 namespace ovi18n_tool {
 namespace {
 
-void print_text_entries(std::ostream& out, std::vector<report::entry> const& entries, int depth) {
+void print_text_entries(std::ostream& out, std::vector<report::entry> const& entries,
+                        std::size_t depth) {
     std::string const indent(depth * 2, ' ');
     for (report::entry const& e : entries) {
         if (e.is_section) {
             out << indent << e.key << ":\n";
             print_text_entries(out, e.children, depth + 1);
         } else {
-            out << indent << e.key << ": " << e.value << "\n";
+            out << indent << e.key << ":" << (e.value.empty() ? "" : " ") << e.value << "\n";
         }
     }
 }
@@ -46,7 +47,8 @@ std::string json_quote(std::string const& s) {
     return out + "\"";
 }
 
-void print_json_entries(std::ostream& out, std::vector<report::entry> const& entries, int depth) {
+void print_json_entries(std::ostream& out, std::vector<report::entry> const& entries,
+                        std::size_t depth) {
     std::string const indent((depth + 1) * 2, ' ');
     out << "{\n";
     for (std::size_t i = 0; i < entries.size(); ++i) {

@@ -1,4 +1,11 @@
 #ifndef FL_I18N_LCCTYPE_HPP
 #define FL_I18N_LCCTYPE_HPP
 
+#include <fl/i18n/lcctype/ascii_class.hpp>
+#include <fl/i18n/lcctype/classify.hpp>
+#include <fl/i18n/lcctype/code_point.hpp>
+#include <fl/i18n/lcctype/posix_class.hpp>
+#include <fl/i18n/lcctype/posix_tag.hpp>
+#include <fl/i18n/lcctype/scan.hpp>
+
 #endif

@@ -2,8 +2,9 @@
 
 #include "i18n/lcmgmt/manager_context.hpp"
 
+#include "common/visible_call_once.hpp"
+
 #include <boost/thread/locks.hpp>
-#include <boost/thread/once.hpp>
 
 namespace fl {
 namespace i18n {
@@ -21,7 +22,7 @@ void run_initialize() {
 }  // namespace
 
 void initialize() {
-    boost::call_once(initialize_once, &run_initialize);
+    fl::detail::visible_call_once(initialize_once, &run_initialize);
 }
 
 void initLcMgmtSystem() {

@@ -1,6 +1,6 @@
 #include "i18n/lcmgmt/manager_context.hpp"
 
-#include <boost/thread/once.hpp>
+#include "common/visible_call_once.hpp"
 
 #include <unicode/locid.h>
 #include <unicode/ucnv.h>
@@ -52,10 +52,16 @@ manager_context::manager_context() {
 }
 
 void manager_context::create() {
-    creating_manager = true;
+    // Cleared on every path: a failed default setting must not leave this thread bypassing the
+    // once flag with a half-made manager.
+    struct creating_scope {
+        creating_scope() { creating_manager = true; }
+        ~creating_scope() { creating_manager = false; }
+        creating_scope(creating_scope const&) = delete;
+        creating_scope& operator=(creating_scope const&) = delete;
+    } const scope;
     the_manager = new manager_context();
     the_manager->apply_default_setting();
-    creating_manager = false;
 }
 
 void manager_context::apply_default_setting() {
@@ -71,7 +77,7 @@ void manager_context::apply_default_setting() {
 
 manager_context& manager_context::instance() {
     if (!creating_manager) {
-        boost::call_once(manager_once, &manager_context::create);
+        fl::detail::visible_call_once(manager_once, &manager_context::create);
     }
     return *the_manager;
 }

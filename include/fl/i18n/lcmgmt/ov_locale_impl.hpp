@@ -35,7 +35,7 @@ public:
     OvLcOptDataCtx::value_type getOptData(OvLcOptDataCtx::LcOptDataType type) const override;
 
     // Messages never carry "en_US_POSIX": catalogs have no such locale, so it is stored as
-    // "en_US".
+    // "en_US". The modifier is given without its leading "@", which getModifier adds back.
     void set_category(std::string const& name, std::string const& modifier, LcCategory category);
     void set_encoding(std::string const& encoding) { encoding_ = encoding; }
     void set_terminal_encoding(std::string const& encoding) { terminal_encoding_ = encoding; }

@@ -1,0 +1,92 @@
+#include <fl/i18n/facet/ctype_facet.hpp>
+
+#include <fl/i18n/lcctype/scan.hpp>
+#include <fl/i18n/lcmgmt/ov_locale.hpp>
+
+#include "i18n/facet/class_mask.hpp"
+#include "i18n/lcctype/posix_class_test.hpp"
+
+#include <unicode/uchar.h>
+#include <unicode/utf16.h>
+
+namespace fl {
+namespace i18n {
+namespace facet {
+
+namespace {
+
+using detail::to_posix_mask;
+
+// Maps a range in place. A pair is mapped as one code point and stored back as a pair, which
+// assumes that the mapping of a supplementary character is supplementary too.
+template <class Map>
+char16_t const* map_case(char16_t* lo, char16_t const* hi, Map map) {
+    for (char16_t* p = lo; p < hi; ++p) {
+        if (U16_IS_LEAD(p[0]) && p + 1 < hi && U16_IS_TRAIL(p[1])) {
+            UChar32 const r = map(U16_GET_SUPPLEMENTARY(p[0], p[1]));
+            p[0] = static_cast<char16_t>((r >> 10) + 0xD7C0);
+            p[1] = static_cast<char16_t>((r & 0x3FF) | 0xDC00);
+            ++p;
+        } else {
+            p[0] = static_cast<char16_t>(map(p[0]));
+        }
+    }
+    return hi;
+}
+
+}  // namespace
+
+ctype_facet<char16_t>::ctype_facet(OvLocale const& locale)
+    : std::ctype_byname<char16_t>("", 0), encoding_name_(locale.getEncoding()) {}
+
+ctype_facet<char16_t>::~ctype_facet() = default;
+
+bool ctype_facet<char16_t>::do_is(mask m, char16_t c) const {
+    return lcctype::detail::in_posix_classes(to_posix_mask(m), c);
+}
+
+char16_t const* ctype_facet<char16_t>::do_is(char16_t const* lo, char16_t const* hi,
+                                             mask* vec) const {
+    for (char16_t const* p = lo; p < hi; ++p, ++vec) {
+        if (U16_IS_LEAD(p[0]) && p + 1 < hi && U16_IS_TRAIL(p[1])) {
+            mask const m = detail::range_mask_of(U16_GET_SUPPLEMENTARY(p[0], p[1]));
+            vec[0] = m;
+            vec[1] = m;
+            ++p;
+            ++vec;
+        } else {
+            *vec = detail::range_mask_of(p[0]);
+        }
+    }
+    return hi;
+}
+
+char16_t const* ctype_facet<char16_t>::do_scan_is(mask m, char16_t const* lo,
+                                                  char16_t const* hi) const {
+    return lcctype::scan(to_posix_mask(m), lo, hi, is_posix());
+}
+
+char16_t const* ctype_facet<char16_t>::do_scan_not(mask m, char16_t const* lo,
+                                                   char16_t const* hi) const {
+    return lcctype::scan(to_posix_mask(m), lo, hi, is_not_posix());
+}
+
+char16_t ctype_facet<char16_t>::do_toupper(char16_t c) const {
+    return static_cast<char16_t>(u_toupper(c));
+}
+
+char16_t const* ctype_facet<char16_t>::do_toupper(char16_t* lo, char16_t const* hi) const {
+    return map_case(lo, hi, &u_toupper);
+}
+
+char16_t ctype_facet<char16_t>::do_tolower(char16_t c) const {
+    return static_cast<char16_t>(u_tolower(c));
+}
+
+char16_t const* ctype_facet<char16_t>::do_tolower(char16_t* lo, char16_t const* hi) const {
+    return map_case(lo, hi, &u_tolower);
+}
+
+}  // namespace facet
+}  // namespace i18n
+}  // namespace fl

@@ -1,0 +1,52 @@
+#include <fl/filesystem.hpp>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "filesystem/temp_directory_fixture.hpp"
+
+namespace {
+
+namespace fs = fl::filesystem;
+using fl::i18n::ustring;
+using fstest::u;
+
+class FilesystemThreads : public fstest::temp_directory_test {};
+
+// Each thread converts with its own copy of the default converter; the current directory and
+// the install root are process-wide and guarded. Mismatches are counted, not asserted, inside
+// the threads.
+TEST_F(FilesystemThreads, ConcurrentOperationsAgree) {
+    ustring const cwd = fs::get_current_path();
+    constexpr int thread_count = 4;
+    constexpr int rounds = 200;
+    std::atomic<int> mismatches{0};
+    std::vector<std::thread> threads;
+    for (int t = 0; t < thread_count; ++t) {
+        threads.emplace_back([&, t] {
+            ustring const own = at("t" + std::to_string(t));
+            for (int i = 0; i < rounds; ++i) {
+                fs::create_directories(own + u"/a/b");
+                if (!fs::exists(fs::upath(own + u"//a/b/"))) {
+                    ++mismatches;
+                }
+                fs::remove_all(own);
+                if (fs::get_install_path() != fs::get_install_path() ||
+                    fs::get_current_path() != cwd) {
+                    ++mismatches;
+                }
+                fs::change_current_path(cwd);
+            }
+        });
+    }
+    for (auto& thread : threads) {
+        thread.join();
+    }
+    EXPECT_EQ(mismatches.load(), 0);
+}
+
+}  // namespace

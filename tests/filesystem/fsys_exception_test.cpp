@@ -1,0 +1,94 @@
+#include <fl/filesystem.hpp>
+
+#include "i18n/codecvt/default_converter.hpp"
+
+#include <gtest/gtest.h>
+#include <unicode/ucnv.h>
+#include <unicode/ucnv_err.h>
+#include <boost/exception_ptr.hpp>
+
+#include <cerrno>
+#include <string>
+#include <typeinfo>
+
+namespace {
+
+namespace fs = fl::filesystem;
+using fl::i18n::ustring;
+
+struct expected_failure {
+    char const* what;
+    fs::fsys_excp_id id;
+    ustring pathname;
+    unsigned int system_error;
+};
+
+// Checks what arrives, and that a copy carried by exception_ptr rethrows as the same class
+// with the same fields.
+void expect_failure(int error, std::string const& path, expected_failure const& expected) {
+    std::string const label = "errno " + std::to_string(error);
+    boost::exception_ptr carried;
+    std::type_info const* thrown_class = nullptr;
+    try {
+        fs::throw_filesystem_error(error, path);
+    } catch (fs::FsysExceptionBase const& e) {
+        EXPECT_STREQ(e.what(), expected.what) << label;
+        EXPECT_EQ(e.get_id(), expected.what) << label;
+        EXPECT_EQ(e.get_excp_id(), expected.id) << label;
+        EXPECT_EQ(e.get_pathname(), expected.pathname) << label;
+        EXPECT_EQ(e.get_system_error(), expected.system_error) << label;
+        thrown_class = &typeid(e);
+        carried = boost::current_exception();
+    }
+    ASSERT_TRUE(carried) << label;
+    try {
+        boost::rethrow_exception(carried);
+    } catch (fs::FsysExceptionBase const& e) {
+        EXPECT_EQ(typeid(e), *thrown_class) << label;
+        EXPECT_EQ(e.get_excp_id(), expected.id) << label;
+        EXPECT_EQ(e.get_pathname(), expected.pathname) << label;
+        EXPECT_EQ(e.get_system_error(), expected.system_error) << label;
+    }
+}
+
+TEST(FilesystemError, ErrnoMappingSurvivesExceptionPtr) {
+    ustring const path = u"/x/y";
+    struct row {
+        int error;
+        expected_failure expected;
+    } const rows[] = {
+        {ENOENT, {"fl:filesystem:PathNotFound", fs::fsys_path_not_found, path, 0}},
+        {EACCES, {"fl:filesystem:AccessDenied", fs::fsys_access_denied, path, 0}},
+        {EEXIST, {"fl:filesystem:FileExistsError", fs::fsys_file_exists_error, path, 0}},
+        {ENOTDIR, {"fl:filesystem:NotDirectoryError", fs::fsys_not_directory_error, path, 0}},
+        {EISDIR, {"fl:filesystem:FileIsDirectory", fs::fsys_file_is_directory, path, 0}},
+        {EINVAL, {"fl:filesystem:InvalidArgument", fs::fsys_invalid_argument, u"", 0}},
+        {ENAMETOOLONG, {"fl:filesystem:FileNameTooLarge", fs::fsys_file_name_too_large, path, 0}},
+        {ENOTEMPTY, {"fl:filesystem:DirectoryNotEmpty", fs::fsys_directory_not_empty, path, 0}},
+        {EMFILE, {"fl:filesystem:SystemError", fs::fsys_system_error, path, 24}},
+        {EPERM, {"fl:filesystem:SystemError", fs::fsys_system_error, path, 1}},
+    };
+    for (auto const& r : rows) {
+        expect_failure(r.error, "/x/y", r.expected);
+    }
+    EXPECT_THROW(fs::detail::throw_invalid_operation_exception(), fs::InvalidOperation);
+}
+
+// When the path itself can't be decoded the report still arrives, each byte widened with its
+// sign so that nothing is lost to a second failure.
+TEST(FilesystemError, UndecodablePathIsWidenedWithSignExtension) {
+    UConverter* const converter = fl::i18n::detail::thread_default_converter();
+    UErrorCode status = U_ZERO_ERROR;
+    UConverterToUCallback old_action = nullptr;
+    void const* old_context = nullptr;
+    ucnv_setToUCallBack(converter, UCNV_TO_U_CALLBACK_STOP, nullptr, &old_action, &old_context,
+                        &status);
+    ASSERT_LE(status, U_ZERO_ERROR);
+    expect_failure(ENOENT, "a\xE4",
+                   {"fl:filesystem:PathNotFound", fs::fsys_path_not_found, u"a\uFFE4", 0});
+    status = U_ZERO_ERROR;
+    ucnv_setToUCallBack(converter, old_action, old_context, nullptr, nullptr, &status);
+    ASSERT_LE(status, U_ZERO_ERROR);
+}
+
+}  // namespace

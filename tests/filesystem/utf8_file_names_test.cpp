@@ -1,0 +1,104 @@
+#include <fl/filesystem.hpp>
+#include <fl/i18n/lcmgmt.hpp>
+
+#include "i18n/lcmgmt/manager_context.hpp"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "filesystem/temp_directory_fixture.hpp"
+
+// Runs under a UTF-8 LANG. The file system encoding is that of the global locale when the
+// first conversion happens; if start-up doesn't make it UTF-8 yet, the test installs the
+// setting start-up would produce before anything converts.
+
+namespace {
+
+namespace fs = fl::filesystem;
+namespace sfs = std::filesystem;
+using fl::i18n::ustring;
+
+class utf8_setting : public ::testing::Environment {
+public:
+    void SetUp() override {
+        fl::i18n::initialize();
+        if (fl::i18n::OvLocale::global().getEncoding() != "UTF-8") {
+            auto& context = fl::i18n::lcmgmt::manager_context::instance();
+            context.user_locale->set_encoding("UTF-8");
+            context.global_locale = context.user_locale.get();
+        }
+        ASSERT_EQ(fl::i18n::OvLocale::global().getEncoding(), "UTF-8");
+    }
+};
+
+::testing::Environment* const setting = ::testing::AddGlobalTestEnvironment(new utf8_setting);
+
+class Utf8FileNames : public fstest::temp_directory_test {
+protected:
+    ustring at16(ustring const& relative) const { return fstest::u(root_ + "/") + relative; }
+};
+
+TEST_F(Utf8FileNames, NamesReachTheDiskAsUtf8) {
+    struct row {
+        ustring name;
+        std::string bytes;
+    } const rows[] = {
+        {u"caf\u00e9", "caf\xC3\xA9"},
+        {u"\u4e2d\u6587.txt", "\xE4\xB8\xAD\xE6\x96\x87.txt"},
+        {u"\U0001F600", "\xF0\x9F\x98\x80"},
+    };
+    for (auto const& r : rows) {
+        fs::create_directory(at16(r.name));
+        EXPECT_TRUE(sfs::is_directory(bytes(r.bytes))) << r.bytes;
+        EXPECT_TRUE(fs::exists(fs::upath(at16(r.name))));
+        fs::rename(at16(r.name), at16(r.name + u".old"));
+        EXPECT_TRUE(sfs::is_directory(bytes(r.bytes + ".old"))) << r.bytes;
+        fs::remove(at16(r.name + u".old"));
+        EXPECT_FALSE(sfs::exists(bytes(r.bytes + ".old"))) << r.bytes;
+    }
+}
+
+TEST_F(Utf8FileNames, DecodedEverywhereTheyComeBack) {
+    sfs::create_directory(bytes("\xC3\xA9t\xC3\xA9"));
+    sfs::create_symlink("\xC3\xA9t\xC3\xA9", bytes("link"));
+    EXPECT_EQ(fs::read_symlink(at16(u"link")), u"\u00e9t\u00e9");
+    EXPECT_EQ(fs::canonical(at16(u"link"), ustring()),
+              fstest::u(sfs::canonical(root_).string()) + u"/\u00e9t\u00e9");
+    try {
+        fs::create_directory(at16(u"\u00e9t\u00e9"));
+        ADD_FAILURE() << "nothing thrown";
+    } catch (fs::FileExistsError const& e) {
+        EXPECT_EQ(e.get_pathname(), at16(u"\u00e9t\u00e9"));
+    }
+}
+
+// Bytes that are not UTF-8 arrive as U+FFFD and can't find their way back to the same file.
+TEST_F(Utf8FileNames, IllegalBytesFromAListing) {
+    write_file("bad\xFF");
+    std::string listed;
+    for (auto const& entry : sfs::directory_iterator(root_)) {
+        listed = entry.path().filename().string();
+    }
+    ASSERT_EQ(listed, "bad\xFF");
+    ustring const name = fs::detail::from_filesystem(listed);
+    EXPECT_EQ(name, u"bad\uFFFD");
+    EXPECT_EQ(fs::detail::to_filesystem(name), "bad\xEF\xBF\xBD");
+    EXPECT_FALSE(fs::exists(at16(name)));
+}
+
+TEST(Utf8Converters, StrictAndLenientInUtf8) {
+    fs::codecvt_ustring_to_filesystem const strict_out(false);
+    fs::codecvt_ustring_to_filesystem const lenient_out(true);
+    fs::codecvt_filesystem_to_ustring const strict_in(false);
+    char16_t const lone_surrogate[] = {u'x', 0xD800, u'y'};
+    EXPECT_THROW(strict_out.do_convert(lone_surrogate, 3), fs::CvtInvalidCharacter);
+    EXPECT_EQ(lenient_out.do_convert(lone_surrogate, 3).size(), 5u);
+    EXPECT_THROW(strict_in.do_convert("a\xFF", 2), fs::CvtInvalidCharacter);
+    EXPECT_THROW(strict_in.do_convert("a\xE4\xB8", 3), fs::FileNameConversionFailure);
+    EXPECT_EQ(strict_in.do_convert("\xE4\xB8\xAD", 3), u"\u4e2d");
+    EXPECT_EQ(strict_out.do_get_destination_size(u"\u4e2d", 1), 3u);
+}
+
+}  // namespace

@@ -1,0 +1,104 @@
+#include "i18n/facet/facet_fixtures.hpp"
+
+#include <gtest/gtest.h>
+
+#include <fl/i18n/ustring.hpp>
+
+#include <vector>
+
+using fl::i18n::ustring;
+using base = std::ctype_base;
+
+namespace {
+
+std::ctype<char16_t> const& ctype() {
+    static facet_test::char16_locale const locale("UTF-8");
+    return locale.ctype();
+}
+
+TEST(CtypeFacet, EachStandardBitStandsForItsClass) {
+    struct {
+        base::mask m;
+        char16_t c;
+        bool expected;
+    } const cases[] = {
+        {base::upper, u'A', true},    {base::upper, u'a', false},  {base::lower, u'a', true},
+        {base::alpha, 0x00E9, true},  {base::digit, 0x0663, true}, {base::xdigit, u'f', true},
+        {base::xdigit, u'g', false},  {base::space, 0x3000, true}, {base::print, u' ', true},
+        {base::cntrl, u'\t', true},   {base::punct, u'+', true},   {base::punct, 0x00A9, false},
+        {base::graph, 0xE000, true},  {base::graph, u' ', false},  {base::alnum, 0x0663, true},
+        {base::blank, u' ', false},    // blank has no class of its own
+        {base::alpha, 0xD801, false},  // a surrogate unit is classified alone
+    };
+    for (auto const& test : cases) {
+        EXPECT_EQ(ctype().is(test.m, test.c), test.expected)
+            << "mask " << std::hex << test.m << " of " << int(test.c);
+    }
+}
+
+TEST(CtypeFacet, RangeMasksJoinPairsAndNeverSetPrint) {
+    ustring const text = u"A1 +\U00010400\xD801z\t\u00A9";
+    std::vector<base::mask> const expected = {
+        base::alpha | base::upper | base::xdigit,
+        base::digit | base::xdigit,
+        base::space,
+        base::punct,
+        base::alpha | base::upper,  // both halves of U+10400
+        base::alpha | base::upper,
+        0,  // a high surrogate before a letter stands alone
+        base::alpha | base::lower,
+        base::cntrl | base::space,
+        0,  // an other symbol is not punct
+    };
+    std::vector<base::mask> masks(text.size(), 0xFFFF);
+    char16_t const* end = text.data() + text.size();
+    EXPECT_EQ(ctype().is(text.data(), end, masks.data()), end);
+    EXPECT_EQ(masks, expected);
+    EXPECT_TRUE(ctype().is(base::print, u'A'));
+}
+
+TEST(CtypeFacet, ScanningTranslatesTheMaskAndWalksLikeScan) {
+    struct {
+        ustring text;
+        base::mask m;
+        bool inside;
+        std::ptrdiff_t hit;
+    } const cases[] = {
+        {u"abC1", base::upper | base::digit, true, 2},
+        {u"ab1", base::alpha, false, 2},
+        {u"\t ", base::blank, true, 2},
+        {u"\xD801"
+         u"1\xDC00x",
+         base::digit, true, 4},  // the join two on skips the digit
+    };
+    for (auto const& test : cases) {
+        char16_t const* lo = test.text.data();
+        char16_t const* hi = lo + test.text.size();
+        auto const found =
+            test.inside ? ctype().scan_is(test.m, lo, hi) : ctype().scan_not(test.m, lo, hi);
+        EXPECT_EQ(found - lo, test.hit) << "mask " << std::hex << test.m;
+    }
+}
+
+TEST(CtypeFacet, CaseMappingKeepsPairsTogether) {
+    EXPECT_EQ(ctype().toupper(char16_t(0x00E9)), 0x00C9);
+    EXPECT_EQ(ctype().tolower(char16_t(0xD801)), 0xD801);
+    struct {
+        ustring text;
+        bool upper;
+        ustring expected;
+    } const cases[] = {
+        {u"a\U00010428b", true, u"A\U00010400B"},    // Deseret small to capital, as a pair
+        {u"A\U00010400B", false, u"a\U00010428b"},   // and back
+        {u"\xDC28x\xD801", true, u"\xDC28X\xD801"},  // lone surrogates stay
+    };
+    for (auto const& test : cases) {
+        ustring text = test.text;
+        char16_t* lo = &text[0];
+        char16_t const* hi = lo + text.size();
+        EXPECT_EQ(test.upper ? ctype().toupper(lo, hi) : ctype().tolower(lo, hi), hi);
+        EXPECT_EQ(text, test.expected);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,148 @@
+// Each test runs in its own process, so "first touch" really is the first.
+#include <fl/i18n/lcmgmt/manager.hpp>
+#include <fl/i18n/lcmgmt/ov_lc_util.hpp>
+#include <fl/i18n/lcmgmt/ov_locale.hpp>
+#include <fl/i18n/lcmgmt/ov_locale_impl.hpp>
+
+#include "i18n/lcmgmt/manager_context.hpp"
+
+#include <gtest/gtest.h>
+#include <boost/thread/locks.hpp>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <set>
+#include <string>
+#include <thread>
+#include <tuple>
+#include <vector>
+
+namespace {
+
+using fl::i18n::OvLcUtil;
+using fl::i18n::OvLocale;
+using fl::i18n::OvLocaleImpl;
+using fl::i18n::lcmgmt::manager_context;
+
+constexpr int thread_count = 8;
+
+// Starts every body at once, so the first touches really overlap.
+void run_together(std::vector<std::function<void()>> const& bodies) {
+    std::atomic<int> waiting{static_cast<int>(bodies.size())};
+    std::vector<std::thread> threads;
+    for (auto const& body : bodies) {
+        threads.emplace_back([&waiting, &body] {
+            waiting.fetch_sub(1);
+            while (waiting.load() > 0) {
+                std::this_thread::yield();
+            }
+            body();
+        });
+    }
+    for (std::thread& t : threads) {
+        t.join();
+    }
+}
+
+// What one thread sees of the manager; every thread must see the same.
+using observation = std::tuple<OvLocale const*, OvLocale const*, OvLocale const*, int, std::string,
+                               std::string, std::size_t, bool>;
+
+observation observe() {
+    OvLocale const& global = OvLocale::global();
+    return observation(
+        &global, &OvLocale::classic(), &OvLocale::system(), OvLcUtil::getLcStatus(),
+        OvLcUtil::getInitStatusMsg(), global.getLocaleName(OvLocale::getLcCategory("MESSAGES")),
+        OvLcUtil::getLocaleInformation().size(), fl::i18n::get_l10n_resource_status());
+}
+
+TEST(ManagerThreads, FirstTouchCreatesOneManager) {
+    std::vector<observation> seen(thread_count);
+    std::vector<std::function<void()>> bodies;
+    for (int i = 0; i < thread_count; ++i) {
+        bodies.push_back([&seen, i] { seen[i] = observe(); });
+    }
+    run_together(bodies);
+    for (observation const& o : seen) {
+        EXPECT_TRUE(o == seen[0]);
+    }
+    EXPECT_EQ(std::get<3>(seen[0]), 2);
+    EXPECT_EQ(std::get<0>(seen[0]), std::get<1>(seen[0])) << "global isn't classic";
+    EXPECT_EQ(std::get<5>(seen[0]), "en_US");
+}
+
+TEST(ManagerThreads, StartUpRunsOnceWhoeverAsks) {
+    std::vector<observation> seen(thread_count);
+    std::vector<std::function<void()>> bodies;
+    for (int i = 0; i < thread_count; ++i) {
+        bodies.push_back([&seen, i] {
+            if (i % 2 == 0) {
+                fl::i18n::initialize();
+            } else {
+                fl::i18n::initLcMgmtSystem();
+            }
+            seen[i] = observe();
+        });
+    }
+    run_together(bodies);
+    for (observation const& o : seen) {
+        EXPECT_TRUE(o == seen[0]);
+    }
+    EXPECT_TRUE(manager_context::instance().initialized);
+    EXPECT_TRUE(seen[0] == observe());
+}
+
+TEST(ManagerThreads, OneSwitchToEnglishWhileOthersRead) {
+    fl::i18n::initialize();
+    manager_context& context = manager_context::instance();
+    auto german = std::make_unique<OvLocaleImpl>(nullptr);
+    for (int c = 0; c < OvLocaleImpl::category_count; ++c) {
+        german->set_category("de_DE", "", static_cast<OvLocale::LcCategory>(c));
+    }
+    german->set_encoding("UTF-8");
+    OvLocaleImpl english_request(nullptr, *german);
+    english_request.set_category("en_US", "", OvLocale::messages);
+    {
+        boost::unique_lock<boost::mutex> guard(context.mutex);
+        context.global_locale.store(german.get());
+        context.user_locale = std::move(german);
+        context.global_locale_locked = false;
+        context.l10n_resource_enabled = true;
+    }
+
+    std::vector<std::set<std::string>> seen_messages(thread_count);
+    std::vector<std::function<void()>> bodies;
+    for (int i = 0; i < thread_count; ++i) {
+        bodies.push_back([&, i] {
+            switch (i % 4) {
+                case 0:
+                    fl::i18n::disable_l10n_resource();
+                    break;
+                case 1:
+                    fl::i18n::change_global_locale(english_request);
+                    break;
+                default:
+                    for (int round = 0; round < 200; ++round) {
+                        seen_messages[i].insert(
+                            OvLocale::global().getLocaleName(OvLocale::messages));
+                        fl::i18n::get_l10n_resource_status();
+                    }
+            }
+        });
+    }
+    run_together(bodies);
+
+    for (auto const& messages : seen_messages) {
+        for (std::string const& name : messages) {
+            EXPECT_TRUE(name == "de_DE" || name == "en_US") << name;
+        }
+    }
+    EXPECT_FALSE(fl::i18n::get_l10n_resource_status());
+    ASSERT_NE(context.english_messages_locale.get(), nullptr);
+    EXPECT_EQ(&OvLocale::global(), context.english_messages_locale.get());
+    EXPECT_EQ(OvLocale::global().getLocaleName(OvLocale::messages), "en_US");
+    EXPECT_EQ(OvLocale::global().getLocaleName(OvLocale::ctype), "de_DE");
+}
+
+}  // namespace
