@@ -2,9 +2,7 @@
 
 #include "i18n/time/one_shot_conversion.hpp"
 
-#include <dlfcn.h>
-
-#include <cstring>
+#include "filesystem/posix_platform.hpp"
 
 namespace fl {
 namespace i18n {
@@ -14,12 +12,8 @@ ustring get_module_path_from_address(void* address) {
     if (address == nullptr) {
         return ustring();
     }
-    Dl_info info{};
-    char const* name = "";
-    if (dladdr(address, &info) != 0 && info.dli_fname != nullptr) {
-        name = info.dli_fname;
-    }
-    return default_bytes_to_ustring(name, std::strlen(name));
+    std::string const name = fl::filesystem::detail::platform::module_path_of(address);
+    return default_bytes_to_ustring(name.data(), name.size());
 }
 
 }  // namespace detail
