@@ -85,22 +85,6 @@ TEST_F(Fopen, NativePathsGoAsTheyStand) {
     }
 }
 
-TEST_F(Fopen, TextIsCleanedBeforeOpening) {
-    ustring const doubled = scratch_.text() + u"//dir///..//file";
-    unique_file const file(fl::filesystem::fopen(doubled, "r"));
-    ASSERT_NE(file, nullptr);
-    EXPECT_EQ(read_all(file.get()), "content");
-}
-
-TEST_F(Fopen, TildeNamesTheHomeDirectory) {
-    std::string const saved = std::getenv("HOME") != nullptr ? std::getenv("HOME") : "";
-    ::setenv("HOME", scratch_.bytes().c_str(), 1);
-    unique_file const file(fl::filesystem::fopen(ustring(u"~/file"), "r"));
-    ::setenv("HOME", saved.c_str(), 1);
-    ASSERT_NE(file, nullptr);
-    EXPECT_EQ(read_all(file.get()), "content");
-}
-
 // Records the text it is given and answers with a fixed name.
 class recording_converter : public fl::i18n::converter<char, char16_t> {
 public:

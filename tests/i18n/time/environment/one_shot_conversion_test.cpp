@@ -40,28 +40,6 @@ int thrown_id(F&& f) {
     return 0;
 }
 
-TEST(OneShotConversion, ShortDestinationStillReportsTheFullLength) {
-    unique_converter const utf8 = strict("UTF-8");
-    std::string const bytes =
-        "gr\xC3\xBC\xC3\x9F"
-        "e \xF0\x9D\x84\x9E";
-    for (std::size_t capacity : {0u, 1u, 4u, 7u, 8u, 16u}) {
-        char16_t buffer[16] = {};
-        EXPECT_EQ(to_unicode_once(utf8.get(), capacity ? buffer : nullptr, capacity, bytes.data(),
-                                  bytes.size()),
-                  8u)
-            << capacity;
-    }
-    std::u16string const text = u"gr\u00FC\u00DFe \U0001D11E";
-    for (std::size_t capacity : {0u, 3u, 11u, 12u, 32u}) {
-        char buffer[32] = {};
-        EXPECT_EQ(from_unicode_once(utf8.get(), capacity ? buffer : nullptr, capacity, text.data(),
-                                    text.size()),
-                  bytes.size())
-            << capacity;
-    }
-}
-
 TEST(OneShotConversion, FailuresMapToTheConversionExceptions) {
     unique_converter const utf8 = strict("UTF-8");
     unique_converter const ascii = strict("US-ASCII");
