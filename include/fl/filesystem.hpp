@@ -4,6 +4,7 @@
 #include <fl/i18n/ustring.hpp>
 
 #include <fl/filesystem/access_form.hpp>
+#include <fl/filesystem/basic_ifstream.hpp>
 #include <fl/filesystem/basic_path.hpp>
 #include <fl/filesystem/boost_path_bridge.hpp>
 #include <fl/filesystem/file_status.hpp>
@@ -17,6 +18,8 @@
 #include <fl/filesystem/path_traits.hpp>
 #include <fl/filesystem/pathname_element_context.hpp>
 #include <fl/filesystem/status_operations.hpp>
+#include <fl/filesystem/stream_opening.hpp>
+#include <fl/filesystem/temporary_files.hpp>
 #include <fl/filesystem/upath_constant.hpp>
 
 #endif

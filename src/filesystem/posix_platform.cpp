@@ -203,6 +203,16 @@ std::string home_variable() {
     return home != nullptr ? std::string(home) : std::string();
 }
 
+std::FILE* open_file(std::string const& path, std::string const& mode) {
+    errno = 0;
+    return std::fopen(path.c_str(), mode.c_str());
+}
+
+std::FILE* reopen_file(std::string const& path, std::string const& mode, std::FILE* stream) {
+    errno = 0;
+    return std::freopen(path.c_str(), mode.c_str(), stream);
+}
+
 std::string module_path_of(void const* address) {
     Dl_info info{};
     if (::dladdr(address, &info) == 0 || info.dli_fname == nullptr) {

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <sys/types.h>
 
+#include <cstdio>
 #include <ctime>
 #include <string>
 
@@ -62,6 +63,11 @@ std::string home_directory_of_current_user();
 std::string home_directory_of_user(std::string const& name);
 // HOME, an unset variable reading as empty.
 std::string home_variable();
+
+// fopen and freopen as they are: unlike the calls above they leave errno to the caller, who
+// reports by a null stream the C way.
+std::FILE* open_file(std::string const& path, std::string const& mode);
+std::FILE* reopen_file(std::string const& path, std::string const& mode, std::FILE* stream);
 
 // The file that the module holding the address was loaded from; empty when dladdr fails.
 std::string module_path_of(void const* address);

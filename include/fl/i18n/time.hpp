@@ -2,6 +2,8 @@
 #define FL_I18N_TIME_HPP
 
 #include <fl/i18n/time/date_time_exception.hpp>
+#include <fl/i18n/time/environment.hpp>
+#include <fl/i18n/time/module_path.hpp>
 #include <fl/i18n/time/ptime_to_time_t.hpp>
 
 #endif

@@ -1,0 +1,45 @@
+#ifndef FL_FILESYSTEM_SEED_RNG_HPP
+#define FL_FILESYSTEM_SEED_RNG_HPP
+
+#include <cstdint>
+#include <limits>
+
+namespace fl {
+namespace filesystem {
+namespace detail {
+
+// Seed words for a pseudo-random engine: bytes from "/dev/urandom" mixed with the address of
+// this object, the clock and a running counter, hashed with SHA-1. Without "/dev/urandom" the
+// other inputs still give varying seeds. A uniform random number generator, so that an
+// engine can draw from it, directly or as a seed sequence.
+class seed_rng {
+public:
+    using result_type = std::uint32_t;
+
+    static constexpr result_type min() { return 0; }
+    static constexpr result_type max() { return std::numeric_limits<result_type>::max(); }
+
+    seed_rng();
+    result_type operator()();
+
+    // The seed sequence face, which engines' seed() takes.
+    template <class Iterator>
+    void generate(Iterator first, Iterator last) {
+        for (; first != last; ++first) {
+            *first = (*this)();
+        }
+    }
+
+private:
+    void refill();
+
+    std::uint32_t digest_[5] = {};
+    std::uint32_t counter_ = 0;
+    unsigned used_ = 5;
+};
+
+}  // namespace detail
+}  // namespace filesystem
+}  // namespace fl
+
+#endif

@@ -1,0 +1,109 @@
+#include <fl/i18n/time/environment.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <string>
+
+namespace {
+
+using fl::i18n::ustring;
+
+char const* const variable = "OVI18N_ENV_TEST_VARIABLE";
+
+class Environment : public ::testing::Test {
+protected:
+    void SetUp() override { ::unsetenv(variable); }
+    void TearDown() override { ::unsetenv(variable); }
+
+    static char const* raw() { return std::getenv(variable); }
+};
+
+TEST_F(Environment, EmptyNamesAreInvalidArguments) {
+    errno = 0;
+    EXPECT_TRUE(fl::i18n::getenv("").empty());
+    EXPECT_EQ(errno, EINVAL);
+    errno = 0;
+    EXPECT_EQ(fl::i18n::setenv("", u"x", 1, true), -1);
+    EXPECT_EQ(errno, EINVAL);
+    errno = 0;
+    EXPECT_EQ(fl::i18n::unsetenv(""), -1);
+    EXPECT_EQ(errno, EINVAL);
+}
+
+TEST_F(Environment, UnsetVariableReadsEmptyAndKeepsErrno) {
+    errno = ERANGE;
+    EXPECT_TRUE(fl::i18n::getenv(variable).empty());
+    EXPECT_EQ(errno, ERANGE);
+}
+
+TEST_F(Environment, EmptyValueNeedsPermission) {
+    ::setenv(variable, "kept", 1);
+    errno = 0;
+    EXPECT_EQ(fl::i18n::setenv(variable, u"", 1, false), -1);
+    EXPECT_EQ(errno, EINVAL);
+    EXPECT_STREQ(raw(), "kept");
+
+    EXPECT_EQ(fl::i18n::setenv(variable, u"", 1, true), 0);
+    ASSERT_NE(raw(), nullptr);
+    EXPECT_STREQ(raw(), "");
+    EXPECT_TRUE(fl::i18n::getenv(variable).empty());
+}
+
+TEST_F(Environment, OverwriteDecidesWhetherAnExistingValueStays) {
+    struct Case {
+        int overwrite;
+        char const* expected;
+    };
+    for (Case const& c : {Case{0, "old"}, Case{1, "new"}}) {
+        ::setenv(variable, "old", 1);
+        EXPECT_EQ(fl::i18n::setenv(variable, u"new", c.overwrite, false), 0);
+        EXPECT_STREQ(raw(), c.expected) << "overwrite " << c.overwrite;
+        std::string const expected = c.expected;
+        EXPECT_EQ(fl::i18n::getenv(variable), ustring(expected.begin(), expected.end()));
+    }
+}
+
+TEST_F(Environment, RemovalOfPresentAndAbsentVariables) {
+    ::setenv(variable, "x", 1);
+    EXPECT_EQ(fl::i18n::unsetenv(variable), 0);
+    EXPECT_EQ(raw(), nullptr);
+    EXPECT_EQ(fl::i18n::unsetenv(variable), 0);
+}
+
+TEST_F(Environment, NameRefusedByTheCLibraryKeepsItsErrno) {
+    errno = 0;
+    EXPECT_EQ(fl::i18n::setenv("A=B", u"x", 1, false), -1);
+    EXPECT_EQ(errno, EINVAL);
+}
+
+// Before start-up the default encoding is US-ASCII: text beyond it is substituted, not refused,
+// and bytes beyond it read back as U+FFFD.
+TEST_F(Environment, TextBeyondAsciiIsSubstitutedBothWays) {
+    ASSERT_EQ(fl::i18n::setenv(variable, u"a\u00E9b", 1, false), 0);
+    std::string const stored = raw();
+    ASSERT_EQ(stored.size(), 3u);
+    EXPECT_EQ(stored[0], 'a');
+    EXPECT_EQ(stored[2], 'b');
+    EXPECT_NE(stored[1], '\xE9');
+
+    ::setenv(variable, "x\xC3\xA9y", 1);
+    ustring const read = fl::i18n::getenv(variable);
+    EXPECT_EQ(read.front(), u'x');
+    EXPECT_EQ(read.back(), u'y');
+    EXPECT_NE(read.find(u'\uFFFD'), ustring::npos);
+}
+
+TEST_F(Environment, LongValuesComeBackWhole) {
+    for (std::size_t length : {1023u, 1024u, 1025u, 40000u}) {
+        std::string const bytes(length, 'v');
+        ::setenv(variable, bytes.c_str(), 1);
+        EXPECT_EQ(fl::i18n::getenv(variable), ustring(length, u'v')) << length;
+
+        EXPECT_EQ(fl::i18n::setenv(variable, ustring(length, u'w'), 1, false), 0);
+        EXPECT_EQ(std::string(raw()), std::string(length, 'w')) << length;
+    }
+}
+
+}  // namespace
