@@ -12,6 +12,7 @@
 #include <fl/i18n/lcmgmt/ov_lc_util.hpp>
 #include <fl/i18n/lcmgmt/ov_locale.hpp>
 #include <fl/i18n/lcmgmt/ov_locale_impl.hpp>
+#include <fl/i18n/lcmgmt/startup_report.hpp>
 #include <fl/i18n/lcmgmt/system_setting.hpp>
 
 #endif

@@ -49,6 +49,8 @@ public:
     std::map<std::string, OvLocale::LcCategory> category_by_name;
     std::map<OvLocale::LcCategory, std::string> name_by_category;
     std::map<std::string, OvLcOptDataCtx::LcOptDataType> opt_data_type_by_name;
+    // The database file start-up read (or tried to), kept for diagnostics.
+    std::string database_file;
 
     manager_context(manager_context const&) = delete;
     manager_context& operator=(manager_context const&) = delete;
