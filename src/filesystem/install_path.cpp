@@ -3,6 +3,7 @@
 #include <fl/filesystem/filename_converter.hpp>
 #include <fl/filesystem/path_algebra.hpp>
 
+#include "filesystem/install_root.hpp"
 #include "filesystem/posix_platform.hpp"
 
 #include <boost/thread/once.hpp>
@@ -55,7 +56,7 @@ std::string module_file() {
 }
 
 void compute_install_path() {
-    std::string const root = root_above_bin(module_file());
+    std::string const root = detail::find_install_root();
     codecvt_filesystem_to_ustring const decoder(true);
     install_path.store(
         new fl::i18n::ustring(root.empty() ? fl::i18n::ustring()
@@ -64,6 +65,10 @@ void compute_install_path() {
 }
 
 }  // namespace
+
+std::string detail::find_install_root() {
+    return root_above_bin(module_file());
+}
 
 fl::i18n::ustring get_install_path() {
     boost::call_once(install_path_once, &compute_install_path);

@@ -5,6 +5,7 @@
 #include <fl/i18n/lcmgmt/javavm_init_context.hpp>
 #include <fl/i18n/lcmgmt/lcdb.hpp>
 #include <fl/i18n/lcmgmt/lcdb_entries.hpp>
+#include <fl/i18n/lcmgmt/lc_rsc_exception.hpp>
 #include <fl/i18n/lcmgmt/locale_name.hpp>
 #include <fl/i18n/lcmgmt/manager.hpp>
 #include <fl/i18n/lcmgmt/ov_lc_mgmt_exception.hpp>

@@ -1,5 +1,7 @@
 #include <fl/i18n/lcmgmt/manager.hpp>
 
+#include <fl/i18n/facet/global_std_locale.hpp>
+
 #include "i18n/lcmgmt/manager_context.hpp"
 
 #include "common/visible_call_once.hpp"
@@ -15,8 +17,10 @@ using lock = boost::unique_lock<boost::mutex>;
 
 boost::once_flag initialize_once = BOOST_ONCE_INIT;
 
+// The standard-library locale needs the encoding start-up decides, so it comes second.
 void run_initialize() {
     initLcMgmtSystem();
+    facet::init_global_std_locale(0x15);
 }
 
 }  // namespace

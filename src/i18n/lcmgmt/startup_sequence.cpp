@@ -1,4 +1,9 @@
+#include <fl/filesystem/path_algebra.hpp>
+#include <fl/i18n/lcmgmt/lc_rsc_exception.hpp>
+
 #include "common/ascii.hpp"
+#include "filesystem/install_root.hpp"
+#include "i18n/lcmgmt/lcdata_parser.hpp"
 #include "i18n/lcmgmt/locale_env_apply.hpp"
 #include "i18n/lcmgmt/manager_context.hpp"
 #include "i18n/lcmgmt/system_setting_reader.hpp"
@@ -19,8 +24,7 @@ char const* const override_variables[] = {"OVLOCALE_LCDATA_PATH", "OVLOCALE_LCDA
 
 std::string override_value(locale_env_snapshot const& setting, char const* name) {
     auto const found = setting.override_values.find(name);
-    return found == setting.override_values.end() ? std::string()
-                                                  : detail::to_ascii_lower(found->second);
+    return found == setting.override_values.end() ? std::string() : found->second;
 }
 
 // The library's own variables; OVLOCALE_TERMINAL_ENCODING is kept with the others but nothing
@@ -32,9 +36,65 @@ void read_override_variables(locale_env_snapshot& setting) {
             setting.override_values[name] = value;
         }
     }
-    setting.use_utf8_as_default = override_value(setting, "OVLOCALE_USE_UTF8_AS_DEFAULT") == "true";
-    std::string const control = override_value(setting, "OVLOCALE_L10N_CONTROL");
+    setting.use_utf8_as_default =
+        detail::to_ascii_lower(override_value(setting, "OVLOCALE_USE_UTF8_AS_DEFAULT")) == "true";
+    std::string const control =
+        detail::to_ascii_lower(override_value(setting, "OVLOCALE_L10N_CONTROL"));
     setting.l10n_control = control == "on" ? 1 : control == "off" ? 2 : 0;
+}
+
+// Bytes throughout: nothing may be decoded before the process encoding is decided.
+std::string locate_database_file(manager_context& context) {
+    std::string directory = override_value(context.setting, "OVLOCALE_LCDATA_PATH");
+    if (directory.empty()) {
+        directory = fl::filesystem::detail::find_install_root();
+        if (!directory.empty()) {
+            fl::filesystem::detail::concatenate_pathname(directory, "bin", false);
+        }
+    }
+    if (directory.empty()) {
+        context.warnings.push_back(
+            "initLocaleMgmt:getLcDataPath - Failed to get the install path.");
+        return std::string();
+    }
+    std::string file_name = override_value(context.setting, "OVLOCALE_LCDATA_FILENAME");
+    if (file_name.empty()) {
+        file_name = "lcdata.xml";
+    }
+    return fl::filesystem::detail::concatenate_pathname(directory, file_name, false);
+}
+
+char const* database_failure_warning(std::int32_t code) {
+    switch (code) {
+        case 2:
+            return "initLocaleMgmt:parseLcData - Failed to open the locale database.";
+        case 3:
+            return "initLocaleMgmt:parseLcData - Failed to read the locale database.";
+        case 4:
+            return "initLocaleMgmt:parseLcData - Failed to create the parser.";
+        case 5:
+            return "initLocaleMgmt:parseLcData - invalid locale database.";
+        default:
+            return nullptr;
+    }
+}
+
+// No database file is a working state: the built-in tables answer, and the failure is only
+// reported.
+void load_locale_database(manager_context& context) {
+    context.database_file = locate_database_file(context);
+    if (context.database_file.empty()) {
+        return;
+    }
+    try {
+        parseLcData(context.database, context.database_file, context.warnings);
+    } catch (LcRscExceptionBase const& failure) {
+        if (char const* warning = database_failure_warning(failure.getCode())) {
+            context.warnings.push_back(warning);
+            context.status = 1;
+            context.status_message = failure.getMessage();
+        }
+    }
 }
 
 void read_system_setting(manager_context& context) {
@@ -70,6 +130,7 @@ void tell_icu(OvLocale const& global) {
 
 void run_startup_sequence(manager_context& context) {
     read_override_variables(context.setting);
+    load_locale_database(context);
     read_system_setting(context);
     make_user_locale_global(context);
     apply_locale_setting(context.setting);
