@@ -1,51 +1,40 @@
 #include "commands.hpp"
+#include "environment_snapshot.hpp"
+#include "locale_sections.hpp"
 #include "report.hpp"
 
 #include <fl/i18n.hpp>
 
 #include <string>
-#include <vector>
 
 namespace ovi18n_tool {
-namespace {
-
-using fl::i18n::OvLcOptDataCtx;
-using fl::i18n::OvLocale;
-
-report::entry describe(std::string const& title, OvLocale const& locale) {
-    std::vector<report::entry> categories;
-    for (int c = OvLocale::ctype; c <= OvLocale::messages; ++c) {
-        auto const category = static_cast<OvLocale::LcCategory>(c);
-        categories.push_back(
-            report::section(OvLocale::getLcCategoryName(category),
-                            {report::text("name", locale.getLocaleName(category)),
-                             report::text("modifier", locale.getModifier(category)),
-                             report::text("language", locale.getLanguage(category)),
-                             report::text("region", locale.getRegion(category))}));
-    }
-    std::string const terminal =
-        boost::get<std::string>(locale.getOptData(OvLcOptDataCtx::termencoding));
-    return report::section(title, {report::section("categories", categories),
-                                   report::text("encoding", locale.getEncoding()),
-                                   report::text("terminal_encoding", terminal)});
-}
-
-}  // namespace
 
 int run_locale(std::ostream& out, bool json) {
+    // Start-up rewrites the locale variables, so what it was given must be read before it runs.
+    report::entry environment_before = snapshot_locale_environment("before");
     fl::i18n::initialize();
 
+    using fl::i18n::OvLcUtil;
+    using fl::i18n::OvLocale;
     report r;
-    r.entries.push_back(
-        report::literal("status", std::to_string(fl::i18n::OvLcUtil::getLcStatus())));
-    r.entries.push_back(report::text("status_message", fl::i18n::OvLcUtil::getInitStatusMsg()));
-    r.entries.push_back(report::text("warning_message", fl::i18n::OvLcUtil::getInitWarningMsg()));
-    r.entries.push_back(report::literal("l10n_resource_enabled",
-                                        fl::i18n::get_l10n_resource_status() ? "true" : "false"));
-    r.entries.push_back(describe("classic", OvLocale::classic()));
-    r.entries.push_back(describe("system", OvLocale::system()));
-    r.entries.push_back(describe("global", OvLocale::global()));
-
+    r.entries = {
+        report::literal("status", std::to_string(OvLcUtil::getLcStatus())),
+        report::text("status_message", OvLcUtil::getInitStatusMsg()),
+        report::text("warning_message", OvLcUtil::getInitWarningMsg()),
+        report::literal("l10n_resource_enabled",
+                        fl::i18n::get_l10n_resource_status() ? "true" : "false"),
+        report::section("environment",
+                        {std::move(environment_before), snapshot_locale_environment("after")}),
+        describe_locale_information("found"),
+        describe_database("database"),
+        describe_c_library("c_library"),
+        describe_locale("classic", OvLocale::classic()),
+        describe_locale("system", OvLocale::system()),
+        describe_locale("global", OvLocale::global()),
+        describe_messages_fallback("messages_fallback"),
+        describe_icu_defaults("icu"),
+        describe_javavm_context("javavm"),
+    };
     if (json) {
         r.print_json(out);
     } else {

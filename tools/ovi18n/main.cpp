@@ -13,7 +13,7 @@ void print_help(std::ostream& out) {
     out << "usage: ovi18n <command> [options]\n"
            "\n"
            "commands:\n"
-           "  locale [--json]   start the library and report the locale it decided on\n"
+           "  locale [--json]   start the library and explain the locale it decided on\n"
            "\n"
            "options:\n"
            "  --version         print the library's version, path and build date\n"

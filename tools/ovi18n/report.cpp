@@ -1,77 +1,90 @@
 #include "report.hpp"
 
-#include <cstdio>
+#include "json_string.hpp"
 
 namespace ovi18n_tool {
 namespace {
 
+using kind = report::entry::kind;
+
 void print_text_entries(std::ostream& out, std::vector<report::entry> const& entries,
-                        std::size_t depth) {
+                        std::size_t depth, bool items) {
     std::string const indent(depth * 2, ' ');
     for (report::entry const& e : entries) {
-        if (e.is_section) {
-            out << indent << e.key << ":\n";
-            print_text_entries(out, e.children, depth + 1);
-        } else {
-            out << indent << e.key << ":" << (e.value.empty() ? "" : " ") << e.value << "\n";
-        }
-    }
-}
-
-std::string json_quote(std::string const& s) {
-    std::string out = "\"";
-    for (unsigned char c : s) {
-        switch (c) {
-            case '"':
-                out += "\\\"";
+        std::string const label = items ? "-" : e.key + ":";
+        switch (e.type) {
+            case kind::object:
+                out << indent << label << "\n";
+                print_text_entries(out, e.children, depth + 1, false);
                 break;
-            case '\\':
-                out += "\\\\";
+            case kind::array:
+                out << indent << label << (e.children.empty() ? " (none)" : "") << "\n";
+                print_text_entries(out, e.children, depth + 1, true);
                 break;
-            case '\n':
-                out += "\\n";
-                break;
-            case '\t':
-                out += "\\t";
+            case kind::null:
+                out << indent << label << " (unset)\n";
                 break;
             default:
-                if (c < 0x20) {
-                    char buffer[8];
-                    std::snprintf(buffer, sizeof buffer, "\\u%04x", c);
-                    out += buffer;
-                } else {
-                    out += static_cast<char>(c);
-                }
+                out << indent << label << (e.value.empty() ? "" : " ") << e.value << "\n";
         }
     }
-    return out + "\"";
 }
 
-void print_json_entries(std::ostream& out, std::vector<report::entry> const& entries,
-                        std::size_t depth) {
+void print_json_value(std::ostream& out, report::entry const& e, std::size_t depth);
+
+void print_json_members(std::ostream& out, std::vector<report::entry> const& members,
+                        std::size_t depth, bool items) {
     std::string const indent((depth + 1) * 2, ' ');
-    out << "{\n";
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        report::entry const& e = entries[i];
-        out << indent << json_quote(e.key) << ": ";
-        if (e.is_section) {
-            print_json_entries(out, e.children, depth + 1);
-        } else {
-            out << (e.is_text ? json_quote(e.value) : e.value);
+    out << (items ? "[" : "{");
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        out << (i == 0 ? "\n" : ",\n") << indent;
+        if (!items) {
+            out << json_quote(members[i].key) << ": ";
         }
-        out << (i + 1 < entries.size() ? ",\n" : "\n");
+        print_json_value(out, members[i], depth + 1);
     }
-    out << std::string(depth * 2, ' ') << "}";
+    if (!members.empty()) {
+        out << "\n" << std::string(depth * 2, ' ');
+    }
+    out << (items ? "]" : "}");
+}
+
+void print_json_value(std::ostream& out, report::entry const& e, std::size_t depth) {
+    switch (e.type) {
+        case kind::object:
+            print_json_members(out, e.children, depth, false);
+            break;
+        case kind::array:
+            print_json_members(out, e.children, depth, true);
+            break;
+        case kind::null:
+            out << "null";
+            break;
+        case kind::literal:
+            out << e.value;
+            break;
+        case kind::text:
+            out << json_quote(e.value);
+            break;
+    }
 }
 
 }  // namespace
 
+report::entry report::list(std::string key, std::vector<std::string> const& items) {
+    entry result{std::move(key), entry::kind::array, std::string(), {}};
+    for (std::string const& item : items) {
+        result.children.push_back(text(std::string(), item));
+    }
+    return result;
+}
+
 void report::print_text(std::ostream& out) const {
-    print_text_entries(out, entries, 0);
+    print_text_entries(out, entries, 0, false);
 }
 
 void report::print_json(std::ostream& out) const {
-    print_json_entries(out, entries, 0);
+    print_json_members(out, entries, 0, false);
     out << "\n";
 }
 
