@@ -1,10 +1,17 @@
-// One start-up per process, checked against the scenario's EXPECT_* variables (each optional):
-//   EXPECT_STATUS, EXPECT_STATUS_MESSAGE (substring of getInitWarningMsg), EXPECT_WARNINGS (the
-//   start-up warnings joined by "|"), EXPECT_DATABASE_FILE, EXPECT_ENCODING, EXPECT_CTYPE and
-//   EXPECT_MESSAGES (global locale), EXPECT_LANG (afterwards; empty means unset),
-//   EXPECT_C_CTYPE (the C library's LC_CTYPE afterwards), EXPECT_ICU_LOCALE,
-//   EXPECT_ALIAS ("name=canonical", canonical empty when the name must be unknown),
-//   EXPECT_INITIALIZE_THROWS (1: initialize() throws InvalidArgument).
+// One start-up per process, checked against what the scenario expects. Each CTest registration
+// runs it with its own locale variables and EXPECT_* variables, each optional:
+//   EXPECT_STATUS, EXPECT_WARNING (substring of getInitWarningMsg), EXPECT_WARNINGS (the start-up
+//   warnings joined by "|"), EXPECT_DATABASE_FILE, EXPECT_ALIAS ("name=canonical", canonical
+//   empty when the name must be unknown), EXPECT_ENCODING (system and global locale),
+//   EXPECT_SYSTEM_<CATEGORY> and EXPECT_GLOBAL_<CATEGORY> ("name" or "name@modifier"),
+//   EXPECT_L10N_ENABLED (0/1), EXPECT_ENV ("VAR=value,VAR=", an empty value means unset),
+//   EXPECT_LC_SET (the only LC_ variables left set), EXPECT_C_CTYPE (the C library's LC_CTYPE),
+//   EXPECT_ICU_LOCALE, EXPECT_INFO ("Key=value,..." of getLocaleInformation), EXPECT_ORIGINAL_ENV
+//   ("VAR=value,..." of get_original_user_locale_setting), EXPECT_JVM (the seven fields of the
+//   JVM context, ","-separated), EXPECT_INITIALIZE_THROWS (1: initialize() throws
+//   InvalidArgument).
+// PROBE_NO_START=1 skips start-up; PROBE_CHANGE_TO_ENGLISH=1 then calls change_global_locale with
+// an en_US locale, and PROBE_DISABLE_L10N=1 disables translated resources.
 #include <fl/filesystem.hpp>
 #include <fl/i18n.hpp>
 
@@ -14,39 +21,67 @@
 
 #include <clocale>
 #include <cstdlib>
+#include <set>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
 using fl::i18n::OvLcUtil;
 using fl::i18n::OvLocale;
 
-bool expected(char const* name, std::string& value) {
-    char const* found = std::getenv(name);
-    if (found == nullptr) {
-        return false;
+bool expected(std::string const& name, std::string& value) {
+    char const* found = std::getenv(name.c_str());
+    if (found != nullptr) {
+        value = found;
     }
-    value = found;
-    return true;
+    return found != nullptr;
 }
 
-std::string joined(std::vector<std::string> const& items) {
-    std::string result;
-    for (std::string const& item : items) {
-        result += (result.empty() ? "" : "|") + item;
+std::string env_or_empty(std::string const& name) {
+    char const* value = std::getenv(name.c_str());
+    return value == nullptr ? std::string() : value;
+}
+
+std::vector<std::string> split(std::string const& list) {
+    std::vector<std::string> items;
+    std::stringstream in(list);
+    for (std::string item; std::getline(in, item, ',');) {
+        items.push_back(item);
+    }
+    return items;
+}
+
+std::vector<std::pair<std::string, std::string>> pairs(std::string const& list) {
+    std::vector<std::pair<std::string, std::string>> result;
+    for (std::string const& item : split(list)) {
+        std::size_t const eq = item.find('=');
+        result.emplace_back(item.substr(0, eq),
+                            eq == std::string::npos ? std::string() : item.substr(eq + 1));
     }
     return result;
+}
+
+bool started() {
+    return std::getenv("PROBE_NO_START") == nullptr &&
+           std::getenv("EXPECT_INITIALIZE_THROWS") == nullptr;
 }
 
 class Startup : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        std::string throws;
-        if (expected("EXPECT_INITIALIZE_THROWS", throws)) {
+        if (std::getenv("EXPECT_INITIALIZE_THROWS") != nullptr) {
             EXPECT_THROW(fl::i18n::initialize(), fl::filesystem::InvalidArgument);
-        } else {
+        } else if (started()) {
             fl::i18n::initialize();
+        }
+        if (std::getenv("PROBE_CHANGE_TO_ENGLISH") != nullptr) {
+            fl::i18n::change_global_locale(*OvLocale::createLocale("en_US"));
+        }
+        if (std::getenv("PROBE_DISABLE_L10N") != nullptr) {
+            fl::i18n::disable_l10n_resource();
         }
     }
 };
@@ -54,62 +89,146 @@ protected:
 TEST_F(Startup, StatusAndDatabase) {
     std::string value;
     if (expected("EXPECT_STATUS", value)) {
-        EXPECT_EQ(std::stoi(value), OvLcUtil::getLcStatus());
+        EXPECT_EQ(OvLcUtil::getLcStatus(), std::stoi(value));
     }
-    if (expected("EXPECT_STATUS_MESSAGE", value)) {
+    if (expected("EXPECT_WARNING", value)) {
         EXPECT_NE(OvLcUtil::getInitWarningMsg().find(value), std::string::npos)
             << OvLcUtil::getInitWarningMsg();
     }
     if (expected("EXPECT_WARNINGS", value)) {
-        EXPECT_EQ(value, joined(fl::i18n::get_startup_warnings()));
+        std::string warnings;
+        for (std::string const& w : fl::i18n::get_startup_warnings()) {
+            warnings += (warnings.empty() ? "" : "|") + w;
+        }
+        EXPECT_EQ(warnings, value);
     }
     if (expected("EXPECT_DATABASE_FILE", value)) {
-        EXPECT_EQ(value, fl::i18n::get_locale_database_file());
+        EXPECT_EQ(fl::i18n::get_locale_database_file(), value);
     }
     if (expected("EXPECT_ALIAS", value)) {
-        std::size_t const eq = value.find('=');
-        std::string const canonical = value.substr(eq + 1);
-        if (canonical.empty()) {
-            EXPECT_THROW(OvLocale::createLocale(value.substr(0, eq)), fl::i18n::OvLcInvLcName);
+        auto const alias = pairs(value).at(0);
+        if (alias.second.empty()) {
+            EXPECT_THROW(OvLocale::createLocale(alias.first), fl::i18n::OvLcInvLcName);
         } else {
-            EXPECT_EQ(canonical,
-                      OvLocale::createLocale(value.substr(0, eq))->getLocaleName(OvLocale::ctype));
+            EXPECT_EQ(OvLocale::createLocale(alias.first)->getLocaleName(OvLocale::ctype),
+                      alias.second);
         }
     }
+    if (expected("EXPECT_L10N_ENABLED", value)) {
+        EXPECT_EQ(fl::i18n::get_l10n_resource_status(), value == "1");
+    }
 }
 
-TEST_F(Startup, GlobalLocaleAndWhatOthersWereTold) {
+TEST_F(Startup, Locales) {
     std::string value;
     if (expected("EXPECT_ENCODING", value)) {
-        EXPECT_EQ(value, OvLocale::global().getEncoding());
+        EXPECT_EQ(OvLocale::system().getEncoding(), value);
+        EXPECT_EQ(OvLocale::global().getEncoding(), value);
     }
-    if (expected("EXPECT_CTYPE", value)) {
-        EXPECT_EQ(value, OvLocale::global().getLocaleName(OvLocale::ctype));
+    for (int c = OvLocale::ctype; c <= OvLocale::messages; ++c) {
+        auto const category = static_cast<OvLocale::LcCategory>(c);
+        std::string upper = OvLocale::getLcCategoryName(category);
+        for (char& ch : upper) {
+            ch = char(ch - 'a' + 'A');
+        }
+        for (auto const& which : {std::make_pair("SYSTEM_", &OvLocale::system()),
+                                  std::make_pair("GLOBAL_", &OvLocale::global())}) {
+            if (expected("EXPECT_" + std::string(which.first) + upper, value)) {
+                EXPECT_EQ(
+                    which.second->getLocaleName(category) + which.second->getModifier(category),
+                    value)
+                    << which.first << upper;
+            }
+        }
     }
-    if (expected("EXPECT_MESSAGES", value)) {
-        EXPECT_EQ(value, OvLocale::global().getLocaleName(OvLocale::messages));
-    }
-    if (expected("EXPECT_LANG", value)) {
-        char const* lang = std::getenv("LANG");
-        EXPECT_EQ(value, lang == nullptr ? "" : lang);
-    }
-    if (expected("EXPECT_C_CTYPE", value)) {
-        EXPECT_STREQ(value.c_str(), std::setlocale(LC_CTYPE, nullptr));
-    }
+    // The library's own numbers never follow the user.
+    EXPECT_EQ(OvLocale::global().getLocaleName(OvLocale::numeric), "en_US_POSIX");
     if (expected("EXPECT_ICU_LOCALE", value)) {
-        EXPECT_STREQ(value.c_str(), icu::Locale::getDefault().getName());
+        EXPECT_STREQ(icu::Locale::getDefault().getName(), value.c_str());
     }
 }
 
-// Numbers in UTF-16 streams use the classic punctuation whatever the process locale.
-TEST_F(Startup, StandardLibraryLocaleIsInstalled) {
-    if (std::getenv("EXPECT_INITIALIZE_THROWS") != nullptr) {
-        GTEST_SKIP() << "start-up stopped before installing it";
+TEST_F(Startup, WhatTheEnvironmentAndTheCLibraryWereTold) {
+    std::string value;
+    if (expected("EXPECT_ENV", value)) {
+        for (auto const& var : pairs(value)) {
+            EXPECT_EQ(env_or_empty(var.first), var.second) << var.first;
+        }
     }
+    if (expected("EXPECT_LC_SET", value)) {
+        std::set<std::string> allowed;
+        for (auto const& var : pairs(value)) {
+            allowed.insert(var.first);
+        }
+        for (char const* name : {"LC_CTYPE", "LC_COLLATE", "LC_TIME", "LC_NUMERIC", "LC_MONETARY",
+                                 "LC_MESSAGES", "LC_PAPER", "LC_NAME", "LC_ADDRESS", "LC_TELEPHONE",
+                                 "LC_MEASUREMENT", "LC_IDENTIFICATION", "LC_ALL"}) {
+            EXPECT_EQ(std::getenv(name) != nullptr, allowed.count(name) != 0) << name;
+        }
+    }
+    if (expected("EXPECT_C_CTYPE", value)) {
+        EXPECT_STREQ(std::setlocale(LC_CTYPE, nullptr), value.c_str());
+    }
+}
+
+// Numbers in UTF-16 streams use the classic punctuation whatever the process locale, and what
+// start-up installed is what the standard library can build.
+TEST_F(Startup, StandardLibraryLocaleIsInstalled) {
+    if (!started()) {
+        GTEST_SKIP() << "no start-up ran to install it";
+    }
+    EXPECT_TRUE(fl::i18n::lcmgmt::is_std_locale_valid());
     std::basic_ostringstream<char16_t> out;
     out.imbue(fl::i18n::facet::get_global_std_locale());
     out << 1234567 << u' ' << 0.5;
     EXPECT_TRUE(out.str() == u"1234567 0.5");
+}
+
+TEST_F(Startup, ReportsTheSettingAsFound) {
+    auto const info = OvLcUtil::getLocaleInformation();
+    std::vector<std::string> keys = {"XpgEnvLcAll", "XpgEnvLang", "XpgEncoding"};
+    for (char const* prefix : {"InitialXpgLc", "XpgLc", "XpgEnvLc"}) {
+        for (char const* word :
+             {"Ctype", "Collate", "Time", "Numeric", "Monetary", "Messages", "Paper", "Name",
+              "Address", "Telephone", "Measurement", "Identification"}) {
+            keys.push_back(std::string(prefix) + word);
+        }
+    }
+    EXPECT_EQ(info.size(), keys.size());
+    for (std::string const& key : keys) {
+        auto const found = info.find(key);
+        ASSERT_NE(found, info.end()) << key;
+        if (std::getenv("PROBE_NO_START") != nullptr) {
+            EXPECT_EQ(found->second, "") << key << " before start-up";
+        }
+    }
+    std::string value;
+    if (expected("EXPECT_INFO", value)) {
+        for (auto const& item : pairs(value)) {
+            EXPECT_EQ(info.at(item.first), item.second) << item.first;
+        }
+    }
+    if (expected("EXPECT_ORIGINAL_ENV", value)) {
+        auto const original = fl::i18n::lcmgmt::get_original_user_locale_setting();
+        for (auto const& item : pairs(value)) {
+            std::vector<std::string> seen;
+            for (auto const& var : original.env_vars) {
+                if (var.name == item.first) {
+                    seen.push_back(var.value);
+                }
+            }
+            EXPECT_EQ(seen, std::vector<std::string>{item.second}) << item.first;
+        }
+    }
+    if (expected("EXPECT_JVM", value)) {
+        std::vector<std::string> fields = split(value);
+        fields.resize(7);
+        fl::i18n::javavm_init_context const c = fl::i18n::get_javavm_init_context();
+        EXPECT_EQ(
+            (std::vector<std::string>{c.language, c.region, c.resource_language, c.resource_region,
+                                      c.format_language, c.format_region, c.file_encoding}),
+            fields);
+    }
 }
 
 }  // namespace
