@@ -1,15 +1,12 @@
 #include <fl/i18n/lcmgmt/lc_rsc_exception.hpp>
 
-#include "common/throw_exception.hpp"
 #include "filesystem/streams/scratch_directory.hpp"
 #include "lcdata_test_support.hpp"
 
 #include <gtest/gtest.h>
-#include <boost/exception_ptr.hpp>
 
 namespace {
 
-using fl::i18n::LcRscExceptionBase;
 using fl::i18n::LcRscFileReadFailure;
 using fl::i18n::LcRscInvalidXmlDoc;
 using fl::i18n::LcRscOpenFileFailure;
@@ -70,21 +67,6 @@ TEST(LcdataFile, FailuresNameTheFileInPrintableForm) {
         EXPECT_EQ("fl:i18n:LcRscFileReadFailure", e.getId());
         EXPECT_EQ(3, e.getCode());
         EXPECT_EQ("Failed to read file " + dir.bytes() + ".", e.what());
-    }
-}
-
-TEST(LcdataFile, FailuresSurviveCloningAsTheirOwnClass) {
-    boost::exception_ptr failure;
-    try {
-        fl::detail::throw_exception(LcRscOpenFileFailure("/x"));
-    } catch (...) {
-        failure = boost::current_exception();
-    }
-    EXPECT_THROW(boost::rethrow_exception(failure), LcRscOpenFileFailure);
-    try {
-        boost::rethrow_exception(failure);
-    } catch (LcRscExceptionBase const& e) {
-        EXPECT_STREQ("Failed to open file /x.", e.what());
     }
 }
 

@@ -107,13 +107,4 @@ TEST(LcdbModify, EncodingsAreCreatedOnDemandAndShareEntriesWithAliases) {
     EXPECT_EQ(text(db.jvm_encoding_name("X-CUSTOM")), "JC2");
 }
 
-TEST(LcdbIntern, EqualTextSharesOneCopy) {
-    Lcdb db;
-    std::string const a = "some text";
-    char const* first = db.intern(a);
-    EXPECT_EQ(db.intern(std::string("some text")), first);
-    EXPECT_NE(static_cast<void const*>(first), static_cast<void const*>(a.c_str()));
-    EXPECT_STREQ(first, "some text");
-}
-
 }  // namespace

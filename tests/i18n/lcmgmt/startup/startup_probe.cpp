@@ -21,6 +21,7 @@
 
 #include <clocale>
 #include <cstdlib>
+#include <optional>
 #include <set>
 #include <sstream>
 #include <string>
@@ -32,17 +33,10 @@ namespace {
 using fl::i18n::OvLcUtil;
 using fl::i18n::OvLocale;
 
-bool expected(std::string const& name, std::string& value) {
-    char const* found = std::getenv(name.c_str());
-    if (found != nullptr) {
-        value = found;
-    }
-    return found != nullptr;
-}
-
-std::string env_or_empty(std::string const& name) {
+// The value of an environment variable, if it is set.
+std::optional<std::string> env(std::string const& name) {
     char const* value = std::getenv(name.c_str());
-    return value == nullptr ? std::string() : value;
+    return value == nullptr ? std::nullopt : std::optional<std::string>(value);
 }
 
 std::vector<std::string> split(std::string const& list) {
@@ -65,48 +59,46 @@ std::vector<std::pair<std::string, std::string>> pairs(std::string const& list) 
 }
 
 bool started() {
-    return std::getenv("PROBE_NO_START") == nullptr &&
-           std::getenv("EXPECT_INITIALIZE_THROWS") == nullptr;
+    return !env("PROBE_NO_START") && !env("EXPECT_INITIALIZE_THROWS");
 }
 
 class Startup : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        if (std::getenv("EXPECT_INITIALIZE_THROWS") != nullptr) {
+        if (env("EXPECT_INITIALIZE_THROWS")) {
             EXPECT_THROW(fl::i18n::initialize(), fl::filesystem::InvalidArgument);
         } else if (started()) {
             fl::i18n::initialize();
         }
-        if (std::getenv("PROBE_CHANGE_TO_ENGLISH") != nullptr) {
+        if (env("PROBE_CHANGE_TO_ENGLISH")) {
             fl::i18n::change_global_locale(*OvLocale::createLocale("en_US"));
         }
-        if (std::getenv("PROBE_DISABLE_L10N") != nullptr) {
+        if (env("PROBE_DISABLE_L10N")) {
             fl::i18n::disable_l10n_resource();
         }
     }
 };
 
 TEST_F(Startup, StatusAndDatabase) {
-    std::string value;
-    if (expected("EXPECT_STATUS", value)) {
-        EXPECT_EQ(OvLcUtil::getLcStatus(), std::stoi(value));
+    if (auto const value = env("EXPECT_STATUS")) {
+        EXPECT_EQ(OvLcUtil::getLcStatus(), std::stoi(*value));
     }
-    if (expected("EXPECT_WARNING", value)) {
-        EXPECT_NE(OvLcUtil::getInitWarningMsg().find(value), std::string::npos)
+    if (auto const value = env("EXPECT_WARNING")) {
+        EXPECT_NE(OvLcUtil::getInitWarningMsg().find(*value), std::string::npos)
             << OvLcUtil::getInitWarningMsg();
     }
-    if (expected("EXPECT_WARNINGS", value)) {
+    if (auto const value = env("EXPECT_WARNINGS")) {
         std::string warnings;
         for (std::string const& w : fl::i18n::get_startup_warnings()) {
             warnings += (warnings.empty() ? "" : "|") + w;
         }
-        EXPECT_EQ(warnings, value);
+        EXPECT_EQ(warnings, *value);
     }
-    if (expected("EXPECT_DATABASE_FILE", value)) {
-        EXPECT_EQ(fl::i18n::get_locale_database_file(), value);
+    if (auto const value = env("EXPECT_DATABASE_FILE")) {
+        EXPECT_EQ(fl::i18n::get_locale_database_file(), *value);
     }
-    if (expected("EXPECT_ALIAS", value)) {
-        auto const alias = pairs(value).at(0);
+    if (auto const value = env("EXPECT_ALIAS")) {
+        auto const alias = pairs(*value).at(0);
         if (alias.second.empty()) {
             EXPECT_THROW(OvLocale::createLocale(alias.first), fl::i18n::OvLcInvLcName);
         } else {
@@ -114,16 +106,15 @@ TEST_F(Startup, StatusAndDatabase) {
                       alias.second);
         }
     }
-    if (expected("EXPECT_L10N_ENABLED", value)) {
-        EXPECT_EQ(fl::i18n::get_l10n_resource_status(), value == "1");
+    if (auto const value = env("EXPECT_L10N_ENABLED")) {
+        EXPECT_EQ(fl::i18n::get_l10n_resource_status(), *value == "1");
     }
 }
 
 TEST_F(Startup, Locales) {
-    std::string value;
-    if (expected("EXPECT_ENCODING", value)) {
-        EXPECT_EQ(OvLocale::system().getEncoding(), value);
-        EXPECT_EQ(OvLocale::global().getEncoding(), value);
+    if (auto const value = env("EXPECT_ENCODING")) {
+        EXPECT_EQ(OvLocale::system().getEncoding(), *value);
+        EXPECT_EQ(OvLocale::global().getEncoding(), *value);
     }
     for (int c = OvLocale::ctype; c <= OvLocale::messages; ++c) {
         auto const category = static_cast<OvLocale::LcCategory>(c);
@@ -133,41 +124,40 @@ TEST_F(Startup, Locales) {
         }
         for (auto const& which : {std::make_pair("SYSTEM_", &OvLocale::system()),
                                   std::make_pair("GLOBAL_", &OvLocale::global())}) {
-            if (expected("EXPECT_" + std::string(which.first) + upper, value)) {
+            if (auto const value = env("EXPECT_" + std::string(which.first) + upper)) {
                 EXPECT_EQ(
                     which.second->getLocaleName(category) + which.second->getModifier(category),
-                    value)
+                    *value)
                     << which.first << upper;
             }
         }
     }
     // The library's own numbers never follow the user.
     EXPECT_EQ(OvLocale::global().getLocaleName(OvLocale::numeric), "en_US_POSIX");
-    if (expected("EXPECT_ICU_LOCALE", value)) {
-        EXPECT_STREQ(icu::Locale::getDefault().getName(), value.c_str());
+    if (auto const value = env("EXPECT_ICU_LOCALE")) {
+        EXPECT_STREQ(icu::Locale::getDefault().getName(), value->c_str());
     }
 }
 
 TEST_F(Startup, WhatTheEnvironmentAndTheCLibraryWereTold) {
-    std::string value;
-    if (expected("EXPECT_ENV", value)) {
-        for (auto const& var : pairs(value)) {
-            EXPECT_EQ(env_or_empty(var.first), var.second) << var.first;
+    if (auto const value = env("EXPECT_ENV")) {
+        for (auto const& var : pairs(*value)) {
+            EXPECT_EQ(env(var.first).value_or(""), var.second) << var.first;
         }
     }
-    if (expected("EXPECT_LC_SET", value)) {
+    if (auto const value = env("EXPECT_LC_SET")) {
         std::set<std::string> allowed;
-        for (auto const& var : pairs(value)) {
+        for (auto const& var : pairs(*value)) {
             allowed.insert(var.first);
         }
         for (char const* name : {"LC_CTYPE", "LC_COLLATE", "LC_TIME", "LC_NUMERIC", "LC_MONETARY",
                                  "LC_MESSAGES", "LC_PAPER", "LC_NAME", "LC_ADDRESS", "LC_TELEPHONE",
                                  "LC_MEASUREMENT", "LC_IDENTIFICATION", "LC_ALL"}) {
-            EXPECT_EQ(std::getenv(name) != nullptr, allowed.count(name) != 0) << name;
+            EXPECT_EQ(env(name).has_value(), allowed.count(name) != 0) << name;
         }
     }
-    if (expected("EXPECT_C_CTYPE", value)) {
-        EXPECT_STREQ(std::setlocale(LC_CTYPE, nullptr), value.c_str());
+    if (auto const value = env("EXPECT_C_CTYPE")) {
+        EXPECT_STREQ(std::setlocale(LC_CTYPE, nullptr), value->c_str());
     }
 }
 
@@ -198,19 +188,18 @@ TEST_F(Startup, ReportsTheSettingAsFound) {
     for (std::string const& key : keys) {
         auto const found = info.find(key);
         ASSERT_NE(found, info.end()) << key;
-        if (std::getenv("PROBE_NO_START") != nullptr) {
+        if (env("PROBE_NO_START")) {
             EXPECT_EQ(found->second, "") << key << " before start-up";
         }
     }
-    std::string value;
-    if (expected("EXPECT_INFO", value)) {
-        for (auto const& item : pairs(value)) {
+    if (auto const value = env("EXPECT_INFO")) {
+        for (auto const& item : pairs(*value)) {
             EXPECT_EQ(info.at(item.first), item.second) << item.first;
         }
     }
-    if (expected("EXPECT_ORIGINAL_ENV", value)) {
+    if (auto const value = env("EXPECT_ORIGINAL_ENV")) {
         auto const original = fl::i18n::lcmgmt::get_original_user_locale_setting();
-        for (auto const& item : pairs(value)) {
+        for (auto const& item : pairs(*value)) {
             std::vector<std::string> seen;
             for (auto const& var : original.env_vars) {
                 if (var.name == item.first) {
@@ -220,8 +209,8 @@ TEST_F(Startup, ReportsTheSettingAsFound) {
             EXPECT_EQ(seen, std::vector<std::string>{item.second}) << item.first;
         }
     }
-    if (expected("EXPECT_JVM", value)) {
-        std::vector<std::string> fields = split(value);
+    if (auto const value = env("EXPECT_JVM")) {
+        std::vector<std::string> fields = split(*value);
         fields.resize(7);
         fl::i18n::javavm_init_context const c = fl::i18n::get_javavm_init_context();
         EXPECT_EQ(
