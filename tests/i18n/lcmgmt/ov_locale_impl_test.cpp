@@ -33,25 +33,19 @@ std::unique_ptr<OvLocaleImpl> distinct_locale() {
 }
 
 TEST(LocaleNames, OnlyMessagesTurnsPosixIntoEnUs) {
-    struct {
-        OvLocale::LcCategory category;
-        char const* given;
-        char const* stored;
-    } const cases[] = {
-        {OvLocale::messages, "en_US_POSIX", "en_US"},
-        {OvLocale::ctype, "en_US_POSIX", "en_US_POSIX"},
-        {OvLocale::time, "en_US_POSIX", "en_US_POSIX"},
-        // Only the exact name is replaced.
-        {OvLocale::messages, "EN_US_POSIX", "EN_US_POSIX"},
-        {OvLocale::messages, "en_US_POSIX.UTF-8", "en_US_POSIX.UTF-8"},
-    };
-    for (auto const& c : cases) {
+    auto const expect_stored = [](OvLocale::LcCategory c, char const* given, char const* stored) {
         OvLocaleImpl locale(nullptr);
-        locale.set_category(c.given, "", c.category);
-        EXPECT_EQ(locale.getLocaleName(c.category), c.stored) << c.given;
+        locale.set_category(given, "", c);
+        EXPECT_EQ(locale.getLocaleName(c), stored) << given;
         // A copy keeps the invariant, whatever the source claims.
-        EXPECT_EQ(OvLocaleImpl(nullptr, locale).getLocaleName(c.category), c.stored) << c.given;
-    }
+        EXPECT_EQ(OvLocaleImpl(nullptr, locale).getLocaleName(c), stored) << given;
+    };
+    expect_stored(OvLocale::messages, "en_US_POSIX", "en_US");
+    expect_stored(OvLocale::ctype, "en_US_POSIX", "en_US_POSIX");
+    expect_stored(OvLocale::time, "en_US_POSIX", "en_US_POSIX");
+    // Only the exact name is replaced.
+    expect_stored(OvLocale::messages, "EN_US_POSIX", "EN_US_POSIX");
+    expect_stored(OvLocale::messages, "en_US_POSIX.UTF-8", "en_US_POSIX.UTF-8");
 }
 
 // Each change is made to a copy of distinct_locale(); equality must notice all but the terminal
@@ -117,24 +111,20 @@ TEST(LocaleCopy, ReadsAnyOvLocaleThroughItsInterface) {
 }
 
 TEST(LocaleNames, LanguageAndRegionComeFromTheCategoryName) {
-    struct {
-        char const* name;
-        char const* language;
-        char const* region;
-    } const cases[] = {{"de_DE", "de", "DE"},
-                       {"sr-Latn_RS", "sr-Latn", "RS"},
-                       {"zh_Hant", "zh-Hant", ""},
-                       {"en_US_POSIX", "en", "US"},
-                       {"es_419", "es", "419"},
-                       {"C", "", ""},
-                       {"", "", ""}};
-    for (auto const& c : cases) {
+    auto const expect_parts = [](char const* name, char const* language, char const* region) {
         OvLocaleImpl locale(nullptr);
         locale.set_category("xx", "", OvLocale::ctype);
-        locale.set_category(c.name, "euro", OvLocale::monetary);
-        EXPECT_EQ(locale.getLanguage(OvLocale::monetary), c.language) << c.name;
-        EXPECT_EQ(locale.getRegion(OvLocale::monetary), c.region) << c.name;
-    }
+        locale.set_category(name, "euro", OvLocale::monetary);
+        EXPECT_EQ(locale.getLanguage(OvLocale::monetary), language) << name;
+        EXPECT_EQ(locale.getRegion(OvLocale::monetary), region) << name;
+    };
+    expect_parts("de_DE", "de", "DE");
+    expect_parts("sr-Latn_RS", "sr-Latn", "RS");
+    expect_parts("zh_Hant", "zh-Hant", "");
+    expect_parts("en_US_POSIX", "en", "US");
+    expect_parts("es_419", "es", "419");
+    expect_parts("C", "", "");
+    expect_parts("", "", "");
 }
 
 TEST(LocaleNames, OutOfRangeCategoryIsDataNotFound) {
