@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
-#include <cstdlib>
 #include <string>
 
 namespace {
@@ -69,31 +67,6 @@ TEST(AnalysisOfOtherCategories, UnknownOnesAreDroppedWithoutError) {
     EXPECT_TRUE(analyse_locale_setting(database(), s));
     EXPECT_EQ(s.new_env[6], "");
     EXPECT_EQ(s.new_env[7], "fr_FR.UTF-8");
-}
-
-// The reader itself, in a process whose environment names no locale: the C library reports C.
-TEST(SystemSettingReader, DisabledMessagesDataTurnsTranslationsOff) {
-    for (char const* var : {"LC_ALL", "LANG", "LC_MESSAGES", "LC_CTYPE"}) {
-        ::unsetenv(var);
-    }
-    Lcdb db;
-    ASSERT_EQ(db.modifyLcOptData("POSIX", "disable_l10n", "L", fl::i18n::ustring()), 0);
-    fl::i18n::OvLocaleImpl system(&db);
-    std::int32_t status = 2;
-    std::string message;
-    locale_env_snapshot s;
-    system_setting_reader(db, system, status, message, s).read();
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(s.l10n_control, 2);
-    EXPECT_EQ(system.getLocaleName(fl::i18n::OvLocale::messages), "en_US");
-    EXPECT_EQ(system.getEncoding(), "US-ASCII");
-    EXPECT_EQ(s.initial_xpg[0], "C");
-
-    // A setting the user chose is left alone.
-    locale_env_snapshot chosen;
-    chosen.l10n_control = 1;
-    system_setting_reader(db, system, status, message, chosen).read();
-    EXPECT_EQ(chosen.l10n_control, 1);
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -108,19 +107,6 @@ std::string text_or_empty(char const* text) {
     return text == nullptr ? std::string() : std::string(text);
 }
 
-TEST(LcdataEffects, SampleDatabaseAddsItsNamesWithoutWarnings) {
-    parsed_document doc;
-    parseLcData(doc.database, std::getenv("OVI18N_SAMPLE_LCDATA"), doc.warnings);
-    EXPECT_EQ(strings(), doc.warnings);
-    fl::i18n::lcmgmt::Lcdb const& db = doc.database;
-    EXPECT_EQ("de_DE", db.canonical_locale_name("deutsch"));
-    EXPECT_EQ("nb_NO", db.canonical_locale_name("bokmal"));
-    EXPECT_EQ("en_GB", db.region_alias_of("en_UK"));
-    EXPECT_EQ("L", db.optional_data("cy_GB", "disable_l10n").first);
-    EXPECT_EQ("EUC-JP", text_or_empty(db.standard_encoding_name("ujis")));
-    EXPECT_EQ("TIS620", text_or_empty(db.jvm_encoding_name("tis620")));
-}
-
 TEST(LcdataEffects, ChangesOnlyWhatDiffers) {
     parsed_document doc;
     doc.parse(
@@ -164,16 +150,6 @@ TEST(LcdataEffects, RefusedChangesBecomeWarningsAndTheParseGoesOn) {
         EXPECT_NO_THROW(doc.parse(c.text)) << c.why;
         EXPECT_EQ(strings{c.warning}, doc.warnings) << c.why;
     }
-}
-
-TEST(LcdataEffects, ElementsBeforeAFailureStayApplied) {
-    parsed_document doc;
-    EXPECT_THROW(doc.parse("<lcdata><locale name=\"de_DE\"><alias name=\"teutonic\"/></locale>"
-                           "<locale encoding=\"UTF-8\"/>"
-                           "<locale name=\"fr_FR\"><alias name=\"gallic\"/></locale></lcdata>"),
-                 LcRscInvalidXmlDoc);
-    EXPECT_EQ("de_DE", doc.database.canonical_locale_name("teutonic"));
-    EXPECT_EQ("", doc.database.canonical_locale_name("gallic"));
 }
 
 // A document of exactly the given size, padded with a comment; complete or cut before its end.

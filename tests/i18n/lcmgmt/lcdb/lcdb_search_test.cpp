@@ -86,12 +86,6 @@ TEST(LanguageTable, ScriptAndRegionTogetherReturnTheFirstMatchingRow) {
     EXPECT_EQ(row.is_default, 1);
 }
 
-TEST(LanguageTable, DefaultRowWinsOverAWiderRow) {
-    language_entry const row = database().find_language_entry("zh", "", "HK");
-    EXPECT_EQ(text(database().script_of(row)), "Hant");
-    EXPECT_EQ(text(database().encoding_of(row)), "Big5-HKSCS");
-}
-
 TEST(LanguageTable, FullNameSearchNarrowsToTheAskedParts) {
     auto const row =
         database().find_locale_entry(fl::i18n::lcmgmt::parse_locale_name("az-arab_AZ"));
