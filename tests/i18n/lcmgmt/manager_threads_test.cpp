@@ -96,11 +96,7 @@ TEST(ManagerThreads, StartUpRunsOnceWhoeverAsks) {
 TEST(ManagerThreads, OneSwitchToEnglishWhileOthersRead) {
     fl::i18n::initialize();
     manager_context& context = manager_context::instance();
-    auto german = std::make_unique<OvLocaleImpl>(nullptr);
-    for (int c = 0; c < OvLocaleImpl::category_count; ++c) {
-        german->set_category("de_DE", "", static_cast<OvLocale::LcCategory>(c));
-    }
-    german->set_encoding("UTF-8");
+    auto german = std::make_unique<OvLocaleImpl>(nullptr, *OvLocale::createLocale("de_DE.UTF-8"));
     OvLocaleImpl english_request(nullptr, *german);
     english_request.set_category("en_US", "", OvLocale::messages);
     {

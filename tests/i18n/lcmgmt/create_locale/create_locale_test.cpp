@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,80 +12,74 @@ using fl::i18n::OvLcInvLcArgument;
 using fl::i18n::OvLcInvLcName;
 using fl::i18n::OvLocale;
 
-struct name_case {
-    char const* name;
-    char const* ctype;     // name and modifier
-    char const* messages;  // name and modifier
-    char const* encoding;
-};
-
-class CreateFromName : public testing::TestWithParam<name_case> {};
-
-TEST_P(CreateFromName, ResolvesNameModifierAndEncoding) {
-    name_case const& c = GetParam();
-    auto const locale = OvLocale::createLocale(c.name);
-    ASSERT_TRUE(locale);
-    EXPECT_EQ(locale->getLocaleName(OvLocale::ctype) + locale->getModifier(OvLocale::ctype),
-              c.ctype);
-    EXPECT_EQ(locale->getLocaleName(OvLocale::messages) + locale->getModifier(OvLocale::messages),
-              c.messages);
-    EXPECT_EQ(locale->getEncoding(), c.encoding);
-    // A created locale has no terminal encoding of its own.
-    EXPECT_EQ(boost::get<std::string>(locale->getOptData(fl::i18n::OvLcOptDataCtx::termencoding)),
-              c.encoding);
+std::string name_and_modifier(OvLocale const& locale, OvLocale::LcCategory category) {
+    return locale.getLocaleName(category) + locale.getModifier(category);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Names, CreateFromName,
-    testing::Values(name_case{"en_US_POSIX", "en_US_POSIX", "en_US", "US-ASCII"},
-                    name_case{"C", "en_US_POSIX", "en_US", "US-ASCII"},
-                    name_case{"de_DE", "de_DE", "de_DE", "ISO-8859-15"},
-                    name_case{"de_DE.UTF-8", "de_DE", "de_DE", "UTF-8"},
-                    name_case{"de_DE.ISO-8859-15@euro", "de_DE@euro", "de_DE@euro", "ISO-8859-15"},
-                    name_case{"de_DE.iso885915@euro", "de_DE@euro", "de_DE@euro", "ISO-8859-15"},
-                    name_case{"de_DE@euro@x", "de_DE@euro@x", "de_DE@euro@x", "ISO-8859-15"},
-                    name_case{"ja_JP", "ja_JP", "ja_JP", "Shift_JIS"},
-                    name_case{"ja_JP.eucJP", "ja_JP", "ja_JP", "EUC-JP"},
-                    name_case{"ja_JP.SJIS", "ja_JP", "ja_JP", "Shift_JIS"},
-                    name_case{"iw_IL", "he_IL", "he_IL", "ISO-8859-8"},
-                    name_case{"zh-Hant", "zh_TW", "zh_TW", "Big5"},
-                    name_case{"sr-Latn_RS.UTF-8", "sr-Latn_RS", "sr-Latn_RS", "UTF-8"},
-                    name_case{"en.UTF-8", "en_US", "en_US", "UTF-8"}));
-
-struct bad_name_case {
-    char const* name;
-    char const* detail;
-};
-
-class CreateFromBadName : public testing::TestWithParam<bad_name_case> {};
-
-TEST_P(CreateFromBadName, ThrowsWithTheOffendingText) {
-    try {
-        OvLocale::createLocale(GetParam().name);
-        FAIL() << GetParam().name;
-    } catch (OvLcInvLcName const& e) {
-        EXPECT_EQ(e.getDetail(), GetParam().detail);
-        EXPECT_EQ(e.getCode(), 1);
+TEST(CreateLocale, ResolvesNameModifierAndEncoding) {
+    struct {
+        char const* name;
+        char const* ctype;     // name and modifier
+        char const* messages;  // name and modifier
+        char const* encoding;
+    } const cases[] = {
+        {"C", "en_US_POSIX", "en_US", "US-ASCII"},
+        {"de_DE", "de_DE", "de_DE", "ISO-8859-15"},
+        {"de_DE.UTF-8", "de_DE", "de_DE", "UTF-8"},
+        {"de_DE.ISO-8859-15@euro", "de_DE@euro", "de_DE@euro", "ISO-8859-15"},
+        {"de_DE.iso885915@euro", "de_DE@euro", "de_DE@euro", "ISO-8859-15"},
+        {"de_DE@euro@x", "de_DE@euro@x", "de_DE@euro@x", "ISO-8859-15"},
+        {"ja_JP.eucJP", "ja_JP", "ja_JP", "EUC-JP"},
+        {"ja_JP.SJIS", "ja_JP", "ja_JP", "Shift_JIS"},
+        {"sr-Latn_RS.UTF-8", "sr-Latn_RS", "sr-Latn_RS", "UTF-8"},
+        {"en.UTF-8", "en_US", "en_US", "UTF-8"},
+    };
+    for (auto const& c : cases) {
+        auto const locale = OvLocale::createLocale(c.name);
+        ASSERT_TRUE(locale) << c.name;
+        EXPECT_EQ(name_and_modifier(*locale, OvLocale::ctype), c.ctype) << c.name;
+        EXPECT_EQ(name_and_modifier(*locale, OvLocale::messages), c.messages) << c.name;
+        EXPECT_EQ(locale->getEncoding(), c.encoding) << c.name;
+        // A created locale has no terminal encoding of its own.
+        EXPECT_EQ(
+            boost::get<std::string>(locale->getOptData(fl::i18n::OvLcOptDataCtx::termencoding)),
+            c.encoding)
+            << c.name;
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Names, CreateFromBadName,
-                         testing::Values(bad_name_case{"de_DE.NOSUCH", "NOSUCH"},
-                                         bad_name_case{"xx-Yyyy_ZZ", "xx-Yyyy_ZZ"},
-                                         bad_name_case{"xx_YY.UTF-8@euro", "xx_YY"},
-                                         bad_name_case{"english", "english"},
-                                         // ICU knows it, the database doesn't
-                                         bad_name_case{"de_DE.ISO-2022-JP", "ISO-2022-JP"}));
-
-TEST(CreateLocale, EmptyNameIsAnInvalidArgument) {
+// The detail names the offending part, or the whole name when a category is being replaced.
+TEST(CreateLocale, BadNamesThrowWithTheOffendingText) {
+    auto const de = OvLocale::createLocale("de_DE");
+    struct {
+        std::function<void()> create;
+        char const* detail;
+    } const cases[] = {
+        {[] { OvLocale::createLocale("de_DE.NOSUCH"); }, "NOSUCH"},
+        {[] { OvLocale::createLocale("xx-Yyyy_ZZ"); }, "xx-Yyyy_ZZ"},
+        {[] { OvLocale::createLocale("xx_YY.UTF-8@euro"); }, "xx_YY"},
+        {[] { OvLocale::createLocale("english"); }, "english"},
+        // ICU knows it, the database doesn't
+        {[] { OvLocale::createLocale("de_DE.ISO-2022-JP"); }, "ISO-2022-JP"},
+        {[] { OvLocale::createLocale("de_DE", OvLocale::time, "qq_QQ.UTF-8"); }, "qq_QQ.UTF-8"},
+        {[&de] { OvLocale::createLocale(*de, OvLocale::time, "fr_FR.BOGUS"); }, "BOGUS"},
+    };
+    for (auto const& c : cases) {
+        try {
+            c.create();
+            ADD_FAILURE() << c.detail;
+        } catch (OvLcInvLcName const& e) {
+            EXPECT_EQ(e.getDetail(), c.detail);
+            EXPECT_EQ(e.getCode(), 1);
+        }
+    }
     EXPECT_THROW(OvLocale::createLocale(""), OvLcInvLcArgument);
     EXPECT_THROW(OvLocale::createLocale("de_DE", OvLocale::time, ""), OvLcInvLcArgument);
 }
 
 TEST(CreateLocale, CategoryChangesKeepTheEncoding) {
     auto const locale = OvLocale::createLocale("de_DE.UTF-8", OvLocale::time, "fr_FR.ISO-8859-1@x");
-    EXPECT_EQ(locale->getLocaleName(OvLocale::time), "fr_FR");
-    EXPECT_EQ(locale->getModifier(OvLocale::time), "@x");
+    EXPECT_EQ(name_and_modifier(*locale, OvLocale::time), "fr_FR@x");
     EXPECT_EQ(locale->getLocaleName(OvLocale::ctype), "de_DE");
     EXPECT_EQ(locale->getEncoding(), "UTF-8");
 
@@ -101,50 +96,21 @@ TEST(CreateLocale, CategoryChangesKeepTheEncoding) {
     EXPECT_EQ(from_name->getEncoding(), "Shift_JIS");
 }
 
-TEST(CreateLocale, CategoryFailuresReportTheWholeName) {
-    try {
-        OvLocale::createLocale("de_DE", OvLocale::time, "qq_QQ.UTF-8");
-        FAIL();
-    } catch (OvLcInvLcName const& e) {
-        EXPECT_EQ(e.getDetail(), "qq_QQ.UTF-8");
-    }
-    try {
-        OvLocale::createLocale(*OvLocale::createLocale("de_DE"), OvLocale::time, "fr_FR.BOGUS");
-        FAIL();
-    } catch (OvLcInvLcName const& e) {
-        EXPECT_EQ(e.getDetail(), "BOGUS");
-    }
-}
-
 TEST(CreateLocale, CopiesAndCategoryFromAnotherLocale) {
     auto const de = OvLocale::createLocale("de_DE.UTF-8@euro");
-    auto const copy = OvLocale::createLocale(*de);
-    EXPECT_TRUE(*copy == *de);
-    auto const ja = OvLocale::createLocale("ja_JP");
-    auto const mixed = OvLocale::createLocale(*de, OvLocale::messages, *ja);
-    EXPECT_EQ(mixed->getLocaleName(OvLocale::messages), "ja_JP");
-    EXPECT_EQ(mixed->getModifier(OvLocale::messages), "");
+    EXPECT_TRUE(*OvLocale::createLocale(*de) == *de);
+    auto const mixed =
+        OvLocale::createLocale(*de, OvLocale::messages, *OvLocale::createLocale("ja_JP"));
+    EXPECT_EQ(name_and_modifier(*mixed, OvLocale::messages), "ja_JP");
     EXPECT_EQ(mixed->getModifier(OvLocale::ctype), "@euro");
     EXPECT_EQ(mixed->getEncoding(), "UTF-8");
-    auto const back = OvLocale::createLocale(*mixed, OvLocale::messages, *de);
-    EXPECT_TRUE(*back == *de);
+    EXPECT_TRUE(*OvLocale::createLocale(*mixed, OvLocale::messages, *de) == *de);
 }
 
 TEST(CreateLocale, WithCForNumeric) {
     auto const locale = OvLocale::createLocaleWithCForNumeric("fr_FR@x");
-    EXPECT_EQ(locale->getLocaleName(OvLocale::numeric), "en_US_POSIX");
-    EXPECT_EQ(locale->getModifier(OvLocale::numeric), "");
-    EXPECT_EQ(locale->getLocaleName(OvLocale::monetary), "fr_FR");
-    EXPECT_EQ(locale->getModifier(OvLocale::monetary), "@x");
-}
-
-TEST(CreateLocale, JvmEncodingComesFromTheDatabase) {
-    auto const ja = OvLocale::createLocale("ja_JP");
-    EXPECT_EQ(boost::get<std::string>(ja->getOptData(fl::i18n::OvLcOptDataCtx::jvmencoding)),
-              "MS932");
-    auto const utf8 = OvLocale::createLocale("de_DE.UTF-8");
-    EXPECT_EQ(boost::get<std::string>(utf8->getOptData(fl::i18n::OvLcOptDataCtx::jvmencoding)),
-              "UTF-8");
+    EXPECT_EQ(name_and_modifier(*locale, OvLocale::numeric), "en_US_POSIX");
+    EXPECT_EQ(name_and_modifier(*locale, OvLocale::monetary), "fr_FR@x");
 }
 
 }  // namespace

@@ -1,10 +1,17 @@
-// One start-up per process, checked against the scenario's EXPECT_* variables (each optional):
-//   EXPECT_STATUS, EXPECT_STATUS_MESSAGE (substring of getInitWarningMsg), EXPECT_WARNINGS (the
-//   start-up warnings joined by "|"), EXPECT_DATABASE_FILE, EXPECT_ENCODING, EXPECT_CTYPE and
-//   EXPECT_MESSAGES (global locale), EXPECT_LANG (afterwards; empty means unset),
-//   EXPECT_C_CTYPE (the C library's LC_CTYPE afterwards), EXPECT_ICU_LOCALE,
-//   EXPECT_ALIAS ("name=canonical", canonical empty when the name must be unknown),
-//   EXPECT_INITIALIZE_THROWS (1: initialize() throws InvalidArgument).
+// One start-up per process, checked against what the scenario expects. Each CTest registration
+// runs it with its own locale variables and EXPECT_* variables, each optional:
+//   EXPECT_STATUS, EXPECT_WARNING (substring of getInitWarningMsg), EXPECT_WARNINGS (the start-up
+//   warnings joined by "|"), EXPECT_DATABASE_FILE, EXPECT_ALIAS ("name=canonical", canonical
+//   empty when the name must be unknown), EXPECT_ENCODING (system and global locale),
+//   EXPECT_SYSTEM_<CATEGORY> and EXPECT_GLOBAL_<CATEGORY> ("name" or "name@modifier"),
+//   EXPECT_L10N_ENABLED (0/1), EXPECT_ENV ("VAR=value,VAR=", an empty value means unset),
+//   EXPECT_LC_SET (the only LC_ variables left set), EXPECT_C_CTYPE (the C library's LC_CTYPE),
+//   EXPECT_ICU_LOCALE, EXPECT_INFO ("Key=value,..." of getLocaleInformation), EXPECT_ORIGINAL_ENV
+//   ("VAR=value,..." of get_original_user_locale_setting), EXPECT_JVM (the seven fields of the
+//   JVM context, ","-separated), EXPECT_INITIALIZE_THROWS (1: initialize() throws
+//   InvalidArgument).
+// PROBE_NO_START=1 skips start-up; PROBE_CHANGE_TO_ENGLISH=1 then calls change_global_locale with
+// an en_US locale, and PROBE_DISABLE_L10N=1 disables translated resources.
 #include <fl/filesystem.hpp>
 #include <fl/i18n.hpp>
 
@@ -14,102 +21,203 @@
 
 #include <clocale>
 #include <cstdlib>
+#include <optional>
+#include <set>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
 using fl::i18n::OvLcUtil;
 using fl::i18n::OvLocale;
 
-bool expected(char const* name, std::string& value) {
-    char const* found = std::getenv(name);
-    if (found == nullptr) {
-        return false;
-    }
-    value = found;
-    return true;
+// The value of an environment variable, if it is set.
+std::optional<std::string> env(std::string const& name) {
+    char const* value = std::getenv(name.c_str());
+    return value == nullptr ? std::nullopt : std::optional<std::string>(value);
 }
 
-std::string joined(std::vector<std::string> const& items) {
-    std::string result;
-    for (std::string const& item : items) {
-        result += (result.empty() ? "" : "|") + item;
+std::vector<std::string> split(std::string const& list) {
+    std::vector<std::string> items;
+    std::stringstream in(list);
+    for (std::string item; std::getline(in, item, ',');) {
+        items.push_back(item);
+    }
+    return items;
+}
+
+std::vector<std::pair<std::string, std::string>> pairs(std::string const& list) {
+    std::vector<std::pair<std::string, std::string>> result;
+    for (std::string const& item : split(list)) {
+        std::size_t const eq = item.find('=');
+        result.emplace_back(item.substr(0, eq),
+                            eq == std::string::npos ? std::string() : item.substr(eq + 1));
     }
     return result;
+}
+
+bool started() {
+    return !env("PROBE_NO_START") && !env("EXPECT_INITIALIZE_THROWS");
 }
 
 class Startup : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        std::string throws;
-        if (expected("EXPECT_INITIALIZE_THROWS", throws)) {
+        if (env("EXPECT_INITIALIZE_THROWS")) {
             EXPECT_THROW(fl::i18n::initialize(), fl::filesystem::InvalidArgument);
-        } else {
+        } else if (started()) {
             fl::i18n::initialize();
+        }
+        if (env("PROBE_CHANGE_TO_ENGLISH")) {
+            fl::i18n::change_global_locale(*OvLocale::createLocale("en_US"));
+        }
+        if (env("PROBE_DISABLE_L10N")) {
+            fl::i18n::disable_l10n_resource();
         }
     }
 };
 
 TEST_F(Startup, StatusAndDatabase) {
-    std::string value;
-    if (expected("EXPECT_STATUS", value)) {
-        EXPECT_EQ(std::stoi(value), OvLcUtil::getLcStatus());
+    if (auto const value = env("EXPECT_STATUS")) {
+        EXPECT_EQ(OvLcUtil::getLcStatus(), std::stoi(*value));
     }
-    if (expected("EXPECT_STATUS_MESSAGE", value)) {
-        EXPECT_NE(OvLcUtil::getInitWarningMsg().find(value), std::string::npos)
+    if (auto const value = env("EXPECT_WARNING")) {
+        EXPECT_NE(OvLcUtil::getInitWarningMsg().find(*value), std::string::npos)
             << OvLcUtil::getInitWarningMsg();
     }
-    if (expected("EXPECT_WARNINGS", value)) {
-        EXPECT_EQ(value, joined(fl::i18n::get_startup_warnings()));
+    if (auto const value = env("EXPECT_WARNINGS")) {
+        std::string warnings;
+        for (std::string const& w : fl::i18n::get_startup_warnings()) {
+            warnings += (warnings.empty() ? "" : "|") + w;
+        }
+        EXPECT_EQ(warnings, *value);
     }
-    if (expected("EXPECT_DATABASE_FILE", value)) {
-        EXPECT_EQ(value, fl::i18n::get_locale_database_file());
+    if (auto const value = env("EXPECT_DATABASE_FILE")) {
+        EXPECT_EQ(fl::i18n::get_locale_database_file(), *value);
     }
-    if (expected("EXPECT_ALIAS", value)) {
-        std::size_t const eq = value.find('=');
-        std::string const canonical = value.substr(eq + 1);
-        if (canonical.empty()) {
-            EXPECT_THROW(OvLocale::createLocale(value.substr(0, eq)), fl::i18n::OvLcInvLcName);
+    if (auto const value = env("EXPECT_ALIAS")) {
+        auto const alias = pairs(*value).at(0);
+        if (alias.second.empty()) {
+            EXPECT_THROW(OvLocale::createLocale(alias.first), fl::i18n::OvLcInvLcName);
         } else {
-            EXPECT_EQ(canonical,
-                      OvLocale::createLocale(value.substr(0, eq))->getLocaleName(OvLocale::ctype));
+            EXPECT_EQ(OvLocale::createLocale(alias.first)->getLocaleName(OvLocale::ctype),
+                      alias.second);
         }
     }
-}
-
-TEST_F(Startup, GlobalLocaleAndWhatOthersWereTold) {
-    std::string value;
-    if (expected("EXPECT_ENCODING", value)) {
-        EXPECT_EQ(value, OvLocale::global().getEncoding());
-    }
-    if (expected("EXPECT_CTYPE", value)) {
-        EXPECT_EQ(value, OvLocale::global().getLocaleName(OvLocale::ctype));
-    }
-    if (expected("EXPECT_MESSAGES", value)) {
-        EXPECT_EQ(value, OvLocale::global().getLocaleName(OvLocale::messages));
-    }
-    if (expected("EXPECT_LANG", value)) {
-        char const* lang = std::getenv("LANG");
-        EXPECT_EQ(value, lang == nullptr ? "" : lang);
-    }
-    if (expected("EXPECT_C_CTYPE", value)) {
-        EXPECT_STREQ(value.c_str(), std::setlocale(LC_CTYPE, nullptr));
-    }
-    if (expected("EXPECT_ICU_LOCALE", value)) {
-        EXPECT_STREQ(value.c_str(), icu::Locale::getDefault().getName());
+    if (auto const value = env("EXPECT_L10N_ENABLED")) {
+        EXPECT_EQ(fl::i18n::get_l10n_resource_status(), *value == "1");
     }
 }
 
-// Numbers in UTF-16 streams use the classic punctuation whatever the process locale.
+TEST_F(Startup, Locales) {
+    if (auto const value = env("EXPECT_ENCODING")) {
+        EXPECT_EQ(OvLocale::system().getEncoding(), *value);
+        EXPECT_EQ(OvLocale::global().getEncoding(), *value);
+    }
+    for (int c = OvLocale::ctype; c <= OvLocale::messages; ++c) {
+        auto const category = static_cast<OvLocale::LcCategory>(c);
+        std::string upper = OvLocale::getLcCategoryName(category);
+        for (char& ch : upper) {
+            ch = char(ch - 'a' + 'A');
+        }
+        for (auto const& which : {std::make_pair("SYSTEM_", &OvLocale::system()),
+                                  std::make_pair("GLOBAL_", &OvLocale::global())}) {
+            if (auto const value = env("EXPECT_" + std::string(which.first) + upper)) {
+                EXPECT_EQ(
+                    which.second->getLocaleName(category) + which.second->getModifier(category),
+                    *value)
+                    << which.first << upper;
+            }
+        }
+    }
+    // The library's own numbers never follow the user.
+    EXPECT_EQ(OvLocale::global().getLocaleName(OvLocale::numeric), "en_US_POSIX");
+    if (auto const value = env("EXPECT_ICU_LOCALE")) {
+        EXPECT_STREQ(icu::Locale::getDefault().getName(), value->c_str());
+    }
+}
+
+TEST_F(Startup, WhatTheEnvironmentAndTheCLibraryWereTold) {
+    if (auto const value = env("EXPECT_ENV")) {
+        for (auto const& var : pairs(*value)) {
+            EXPECT_EQ(env(var.first).value_or(""), var.second) << var.first;
+        }
+    }
+    if (auto const value = env("EXPECT_LC_SET")) {
+        std::set<std::string> allowed;
+        for (auto const& var : pairs(*value)) {
+            allowed.insert(var.first);
+        }
+        for (char const* name : {"LC_CTYPE", "LC_COLLATE", "LC_TIME", "LC_NUMERIC", "LC_MONETARY",
+                                 "LC_MESSAGES", "LC_PAPER", "LC_NAME", "LC_ADDRESS", "LC_TELEPHONE",
+                                 "LC_MEASUREMENT", "LC_IDENTIFICATION", "LC_ALL"}) {
+            EXPECT_EQ(env(name).has_value(), allowed.count(name) != 0) << name;
+        }
+    }
+    if (auto const value = env("EXPECT_C_CTYPE")) {
+        EXPECT_STREQ(std::setlocale(LC_CTYPE, nullptr), value->c_str());
+    }
+}
+
+// Numbers in UTF-16 streams use the classic punctuation whatever the process locale, and what
+// start-up installed is what the standard library can build.
 TEST_F(Startup, StandardLibraryLocaleIsInstalled) {
-    if (std::getenv("EXPECT_INITIALIZE_THROWS") != nullptr) {
-        GTEST_SKIP() << "start-up stopped before installing it";
+    if (!started()) {
+        GTEST_SKIP() << "no start-up ran to install it";
     }
+    EXPECT_TRUE(fl::i18n::lcmgmt::is_std_locale_valid());
     std::basic_ostringstream<char16_t> out;
     out.imbue(fl::i18n::facet::get_global_std_locale());
     out << 1234567 << u' ' << 0.5;
     EXPECT_TRUE(out.str() == u"1234567 0.5");
+}
+
+TEST_F(Startup, ReportsTheSettingAsFound) {
+    auto const info = OvLcUtil::getLocaleInformation();
+    std::vector<std::string> keys = {"XpgEnvLcAll", "XpgEnvLang", "XpgEncoding"};
+    for (char const* prefix : {"InitialXpgLc", "XpgLc", "XpgEnvLc"}) {
+        for (char const* word :
+             {"Ctype", "Collate", "Time", "Numeric", "Monetary", "Messages", "Paper", "Name",
+              "Address", "Telephone", "Measurement", "Identification"}) {
+            keys.push_back(std::string(prefix) + word);
+        }
+    }
+    EXPECT_EQ(info.size(), keys.size());
+    for (std::string const& key : keys) {
+        auto const found = info.find(key);
+        ASSERT_NE(found, info.end()) << key;
+        if (env("PROBE_NO_START")) {
+            EXPECT_EQ(found->second, "") << key << " before start-up";
+        }
+    }
+    if (auto const value = env("EXPECT_INFO")) {
+        for (auto const& item : pairs(*value)) {
+            EXPECT_EQ(info.at(item.first), item.second) << item.first;
+        }
+    }
+    if (auto const value = env("EXPECT_ORIGINAL_ENV")) {
+        auto const original = fl::i18n::lcmgmt::get_original_user_locale_setting();
+        for (auto const& item : pairs(*value)) {
+            std::vector<std::string> seen;
+            for (auto const& var : original.env_vars) {
+                if (var.name == item.first) {
+                    seen.push_back(var.value);
+                }
+            }
+            EXPECT_EQ(seen, std::vector<std::string>{item.second}) << item.first;
+        }
+    }
+    if (auto const value = env("EXPECT_JVM")) {
+        std::vector<std::string> fields = split(*value);
+        fields.resize(7);
+        fl::i18n::javavm_init_context const c = fl::i18n::get_javavm_init_context();
+        EXPECT_EQ(
+            (std::vector<std::string>{c.language, c.region, c.resource_language, c.resource_region,
+                                      c.format_language, c.format_region, c.file_encoding}),
+            fields);
+    }
 }
 
 }  // namespace
