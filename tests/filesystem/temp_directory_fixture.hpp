@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -54,6 +55,14 @@ protected:
 
     std::string root_;
 };
+
+inline std::string read_all(std::FILE* file) {
+    std::string content;
+    for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) {
+        content += static_cast<char>(c);
+    }
+    return content;
+}
 
 }  // namespace fstest
 

@@ -47,12 +47,4 @@ private:
     std::filesystem::path path_;
 };
 
-inline std::string read_all(std::FILE* file) {
-    std::string content;
-    for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) {
-        content += static_cast<char>(c);
-    }
-    return content;
-}
-
 #endif

@@ -13,8 +13,7 @@
 #include <thread>
 #include <vector>
 
-namespace fl {
-namespace i18n {
+namespace fl::i18n {
 namespace {
 
 constexpr int thread_count = 8;
@@ -78,5 +77,4 @@ TEST(default_converter, each_thread_has_its_own_copy_closed_at_thread_end) {
 }
 
 }  // namespace
-}  // namespace i18n
-}  // namespace fl
+}  // namespace fl::i18n

@@ -9,8 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace fl {
-namespace i18n {
+namespace fl::i18n {
 namespace {
 
 constexpr int invalid = codecvt_invalid_character;
@@ -87,19 +86,11 @@ struct modified_utf8_case {
 };
 
 std::vector<modified_utf8_case> const modified_utf8_cases = {
-    {"NUL takes two bytes", std::u16string(1, u'\0') + u"a",
-     std::string("\xC0\x80"
-                 "a",
-                 3)},
+    {"NUL takes two bytes", std::u16string(1, u'\0') + u"z", std::string("\xC0\x80z", 3)},
     {"each surrogate encoded by itself", u"\U0001F600", "\xED\xA0\xBD\xED\xB8\x80"},
     {"BMP character as in UTF-8", u"\u00E9\u65E5", "\xC3\xA9\xE6\x97\xA5"},
     {"long text through the heap estimate", std::u16string(3000, u'\u00E9'),
-     [] {
-         std::string s;
-         for (int i = 0; i < 3000; ++i)
-             s += "\xC3\xA9";
-         return s;
-     }()},
+     repeat<std::string>("\xC3\xA9", 3000)},
     {"empty", u"", ""},
 };
 
@@ -116,11 +107,7 @@ INSTANTIATE_TEST_SUITE_P(table, modified_utf8_test, ::testing::ValuesIn(modified
 
 TEST(modified_utf8, illegal_bytes_are_replaced_and_sizes_checked) {
     codecvt_modified_utf8_to_ustring const in;
-    EXPECT_EQ(in.do_convert("a\xFF"
-                            "b",
-                            3),
-              u"a\uFFFD"
-              "b");
+    EXPECT_EQ(in.do_convert("a\xFFz", 3), u"a\uFFFDz");
     char16_t unit;
     EXPECT_EQ(thrown_id([&] { in.do_convert(&unit, 0x80000000u, "a", 1); }),
               codecvt_size_too_large);
@@ -144,13 +131,7 @@ std::vector<wide_case> const wide_cases = {
      std::u16string({char16_t(0xDC00), char16_t(0xDC00)}),
      std::wstring(1, wchar_t(0xFFFD)) + std::wstring(1, wchar_t(0xFFFD))},
     {"long text is measured first", std::wstring(1500, L'\U00010000'),
-     [] {
-         std::u16string s;
-         for (int i = 0; i < 1500; ++i)
-             s += u"\U00010000";
-         return s;
-     }(),
-     std::wstring(1500, L'\U00010000')},
+     repeat<std::u16string>(u"\U00010000", 1500), std::wstring(1500, L'\U00010000')},
 };
 
 class wide_test : public ::testing::TestWithParam<wide_case> {};
@@ -175,5 +156,4 @@ TEST(wide, pair_cut_by_the_buffer_end_keeps_its_high_unit_uncounted) {
 }
 
 }  // namespace
-}  // namespace i18n
-}  // namespace fl
+}  // namespace fl::i18n
