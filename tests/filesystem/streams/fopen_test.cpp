@@ -27,8 +27,7 @@ using unique_file = std::unique_ptr<std::FILE, file_closer>;
 
 class Fopen : public fstest::temp_directory_test {
 protected:
-    void SetUp() override {
-        temp_directory_test::SetUp();
+    Fopen() {
         write_file("file", "content");
         std::filesystem::create_directory(bytes("dir"));
     }

@@ -61,18 +61,15 @@ std::vector<to_ustring_case> const to_cases = {
     {"empty text", "UTF-8", "", u"", stop},
 };
 
-class to_ustring_cases : public ::testing::TestWithParam<to_ustring_case> {};
-
-TEST_P(to_ustring_cases, whole_measured_and_buffered_agree) {
-    to_ustring_case const& c = GetParam();
-    SCOPED_TRACE(c.reason);
-    codecvt_string_to_ustring const cvt(c.mode, c.encoding);
-    check_conversion(cvt, c.bytes, c.expected, c.error);
-    // A failed conversion leaves the converter ready for the next text.
-    EXPECT_EQ(cvt.do_convert("ok", 2), u"ok");
+TEST(to_ustring_cases, whole_measured_and_buffered_agree) {
+    for (to_ustring_case const& c : to_cases) {
+        SCOPED_TRACE(c.reason);
+        codecvt_string_to_ustring const cvt(c.mode, c.encoding);
+        check_conversion(cvt, c.bytes, c.expected, c.error);
+        // A failed conversion leaves the converter ready for the next text.
+        EXPECT_EQ(cvt.do_convert("ok", 2), u"ok");
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(table, to_ustring_cases, ::testing::ValuesIn(to_cases));
 
 struct from_ustring_case {
     char const* reason;
@@ -80,7 +77,7 @@ struct from_ustring_case {
     std::u16string text;
     std::string expected;
     codecvt_call_back_mode mode;
-    int error;                      // codecvt_excp_id, 0 for success
+    int error = 0;                  // codecvt_excp_id
     std::string substitution = "";  // of call_back_substitute
 };
 
@@ -126,18 +123,15 @@ std::vector<from_ustring_case> const from_cases = {
     {"empty text", "UTF-8", u"", "", stop},
 };
 
-class from_ustring_cases : public ::testing::TestWithParam<from_ustring_case> {};
-
-TEST_P(from_ustring_cases, whole_measured_and_buffered_agree) {
-    from_ustring_case const& c = GetParam();
-    SCOPED_TRACE(c.reason);
-    codecvt_ustring_to_string const cvt(c.mode, c.encoding, c.substitution);
-    check_conversion(cvt, c.text, c.expected, c.error);
-    // A failed conversion leaves the converter ready for the next text.
-    EXPECT_EQ(cvt.do_convert(u"ok", 2), "ok");
+TEST(from_ustring_cases, whole_measured_and_buffered_agree) {
+    for (from_ustring_case const& c : from_cases) {
+        SCOPED_TRACE(c.reason);
+        codecvt_ustring_to_string const cvt(c.mode, c.encoding, c.substitution);
+        check_conversion(cvt, c.text, c.expected, c.error);
+        // A failed conversion leaves the converter ready for the next text.
+        EXPECT_EQ(cvt.do_convert(u"ok", 2), "ok");
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(table, from_ustring_cases, ::testing::ValuesIn(from_cases));
 
 }  // namespace
 }  // namespace fl::i18n
