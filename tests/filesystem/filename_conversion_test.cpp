@@ -9,21 +9,12 @@
 #include <boost/numeric/conversion/converter_policies.hpp>
 
 #include <string>
-#include <typeinfo>
 
 namespace {
 
 namespace fs = fl::filesystem;
 namespace d = fl::filesystem::detail;
 using fl::i18n::ustring;
-
-std::string repeat(std::string const& piece, std::size_t times) {
-    std::string text;
-    for (std::size_t i = 0; i < times; ++i) {
-        text += piece;
-    }
-    return text;
-}
 
 // The drivers take any converter; UTF-8 shows the multi-byte cases that the default encoding
 // before start-up (US-ASCII) can't.
@@ -64,10 +55,11 @@ TEST_F(FileNameDrivers, EveryBufferRoadGivesTheWholeResult) {
     };
     for (auto const& r : rows) {
         ustring text;
+        std::string bytes;
         for (std::size_t i = 0; i < r.count; ++i) {
             text += r.unit;
+            bytes += r.bytes;
         }
-        std::string const bytes = repeat(r.bytes, r.count);
         EXPECT_EQ(d::path_to_bytes(utf8_.get(), text.data(), text.size()), bytes) << r.reason;
         EXPECT_EQ(d::bytes_to_path(utf8_.get(), bytes.data(), bytes.size()), text) << r.reason;
     }
@@ -113,7 +105,6 @@ TEST_F(FileNameDrivers, LengthsBeyondThirtyTwoBitsAreRefusedBeforeIcu) {
                  boost::numeric::positive_overflow);
 }
 
-// Before start-up the default encoding is US-ASCII: enough to tell lenient from strict.
 // Before start-up the default encoding is US-ASCII: enough to tell lenient from strict. The
 // narrow pair is the same logic under its own class names.
 TEST(FileNameConverters, LenientSubstitutesStrictThrows) {
@@ -121,8 +112,6 @@ TEST(FileNameConverters, LenientSubstitutesStrictThrows) {
     fs::codecvt_ustring_to_narrow_string const strict_out(false);
     fs::codecvt_narrow_string_to_ustring const lenient_in(true);
     fs::codecvt_filesystem_to_ustring const strict_in(false);
-    EXPECT_NE(typeid(strict_out), typeid(fs::codecvt_ustring_to_filesystem));
-    EXPECT_NE(typeid(lenient_in), typeid(fs::codecvt_filesystem_to_ustring));
 
     std::string const substituted = lenient_out.do_convert(u"a\u00e9", 2);
     ASSERT_EQ(substituted.size(), 2u);

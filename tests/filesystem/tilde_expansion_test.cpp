@@ -25,12 +25,9 @@ std::string home_in_user_database(char const* user) {
     return entry != nullptr && entry->pw_dir != nullptr ? entry->pw_dir : "";
 }
 
-std::string root_home() {
-    return home_in_user_database("root");
-}
-
 TEST(TildeExpansion, LeadingTildeOnly) {
     ASSERT_NE(std::getenv("HOME"), nullptr);
+    std::string const root_home = home_in_user_database("root");
     struct row {
         std::string input;
         bool expand;
@@ -44,8 +41,8 @@ TEST(TildeExpansion, LeadingTildeOnly) {
         {"~/x", false, "~/x"},
         {"x/~", true, "x/~"},
         {"/~/x", true, "/~/x"},
-        {"~root", true, root_home()},
-        {"~root/x", true, root_home() + "/x"},
+        {"~root", true, root_home},
+        {"~root/x", true, root_home + "/x"},
         {"~no-such-user-q7z/x", true, "~no-such-user-q7z/x"},
         {"~no-such-user-q7z", true, "~no-such-user-q7z"},
     };

@@ -23,10 +23,4 @@ inline bool fits_model(std::string const& text, std::string const& model) {
     return true;
 }
 
-// The random part of a temporary name.
-inline std::string const& random_model() {
-    static std::string const model = "xxxx-xxxx-xxxx-xxxx";
-    return model;
-}
-
 #endif

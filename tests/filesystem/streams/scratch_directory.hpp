@@ -25,8 +25,18 @@ public:
     scratch_directory(scratch_directory const&) = delete;
     scratch_directory& operator=(scratch_directory const&) = delete;
     ~scratch_directory() {
+        namespace sfs = std::filesystem;
         std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
+        // Permission tests may leave directories closed; open them again before removal.
+        sfs::permissions(path_, sfs::perms::owner_all, sfs::perm_options::add, ignored);
+        for (auto it = sfs::recursive_directory_iterator(path_, ignored);
+             it != sfs::recursive_directory_iterator(); it.increment(ignored)) {
+            if (it->is_directory(ignored) && !it->is_symlink(ignored)) {
+                sfs::permissions(it->path(), sfs::perms::owner_all, sfs::perm_options::add,
+                                 ignored);
+            }
+        }
+        sfs::remove_all(path_, ignored);
     }
 
     // Bytes of the directory, and of a name inside it.
@@ -46,13 +56,5 @@ public:
 private:
     std::filesystem::path path_;
 };
-
-inline std::string read_all(std::FILE* file) {
-    std::string content;
-    for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) {
-        content += static_cast<char>(c);
-    }
-    return content;
-}
 
 #endif

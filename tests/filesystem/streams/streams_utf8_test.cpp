@@ -3,12 +3,13 @@
 #include <fl/filesystem/temporary_files.hpp>
 #include <fl/i18n/lcmgmt.hpp>
 
-#include "filesystem/streams/scratch_directory.hpp"
+#include "filesystem/temp_directory_fixture.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <string>
 
 // Runs in a UTF-8 locale, started before any conversion, so that file names are UTF-8 bytes.
@@ -23,11 +24,9 @@ std::string const name_bytes =
     "Gr\xC3\xBC\xC3\x9F"
     "e-\xE6\x97\xA5\xE6\x9C\xAC.txt";
 
-class StreamsUtf8 : public ::testing::Test {
+class StreamsUtf8 : public fstest::temp_directory_test {
 protected:
     static void SetUpTestSuite() { fl::i18n::initialize(); }
-    StreamsUtf8() : scratch_("streams-utf8") {}
-    scratch_directory scratch_;
 };
 
 TEST_F(StreamsUtf8, DefaultEncodingIsUtf8) {
@@ -35,32 +34,32 @@ TEST_F(StreamsUtf8, DefaultEncodingIsUtf8) {
 }
 
 TEST_F(StreamsUtf8, InputStreamReadsANonAsciiName) {
-    scratch_.write(name_bytes, "erste Zeile\nzweite\n");
-    fl::filesystem::ifstream by_path(upath(scratch_.text() + u"/" + name_text));
+    write_file(name_bytes, "erste Zeile\nzweite\n");
+    fl::filesystem::ifstream by_path(upath(at("") + name_text));
     ASSERT_TRUE(by_path.is_open());
     std::string line;
     ASSERT_TRUE(std::getline(by_path, line));
     EXPECT_EQ(line, "erste Zeile");
 
-    fl::filesystem::ifstream by_text(scratch_.text() + u"//" + name_text);
+    fl::filesystem::ifstream by_text(at("") + u"/" + name_text);
     ASSERT_TRUE(std::getline(by_text, line));
     EXPECT_EQ(line, "erste Zeile");
 
-    fl::filesystem::ifstream other_name(scratch_.text() + u"/Gr\u00FC\u00DFe.txt");
+    fl::filesystem::ifstream other_name(fstest::u(root_) + u"/Gr\u00FC\u00DFe.txt");
     EXPECT_FALSE(other_name.is_open());
 }
 
 TEST_F(StreamsUtf8, FopenWritesUnderTheUtf8Name) {
-    std::FILE* const file = fl::filesystem::fopen(scratch_.text() + u"/" + name_text, "w");
+    std::FILE* const file = fl::filesystem::fopen(at("") + name_text, "w");
     ASSERT_NE(file, nullptr);
     std::fputs("x", file);
     std::fclose(file);
-    EXPECT_TRUE(std::filesystem::is_regular_file(scratch_.bytes(name_bytes)));
+    EXPECT_TRUE(std::filesystem::is_regular_file(bytes(name_bytes)));
 }
 
 TEST_F(StreamsUtf8, TemporaryNamesKeepNonAsciiParts) {
-    std::string const directory_bytes = scratch_.bytes("\xD0\xB2\xD1\x80\xD0\xB5\xD0\xBC\xD1\x8F");
-    ustring const directory = scratch_.text() + u"/\u0432\u0440\u0435\u043C\u044F";
+    std::string const directory_bytes = bytes("\xD0\xB2\xD1\x80\xD0\xB5\xD0\xBC\xD1\x8F");
+    ustring const directory = fstest::u(root_) + u"/\u0432\u0440\u0435\u043C\u044F";
     std::filesystem::create_directory(directory_bytes);
 
     ::setenv("TMPDIR", directory_bytes.c_str(), 1);

@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace fl {
-namespace i18n {
+namespace fl::i18n {
 namespace {
 
 struct estimate_case {
@@ -43,5 +42,4 @@ TEST(convert_with_estimate, fills_stack_block_then_exact) {
 }
 
 }  // namespace
-}  // namespace i18n
-}  // namespace fl
+}  // namespace fl::i18n

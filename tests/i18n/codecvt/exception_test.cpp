@@ -9,8 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace fl {
-namespace i18n {
+namespace fl::i18n {
 namespace {
 
 struct leaf_case {
@@ -60,5 +59,4 @@ TEST(codecvt_exception, each_leaf_survives_exception_ptr_with_its_class) {
 }
 
 }  // namespace
-}  // namespace i18n
-}  // namespace fl
+}  // namespace fl::i18n

@@ -9,8 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace fl {
-namespace i18n {
+namespace fl::i18n {
 namespace {
 
 constexpr int invalid = codecvt_invalid_character;
@@ -32,26 +31,25 @@ std::vector<ascii_case> const ascii_cases = {
     {"0x7F is still ASCII, 0x80 is not", false, "\x7F\x80", u"", u"\u007F\u0080", "", invalid},
 };
 
-class ascii_cases_test : public ::testing::TestWithParam<ascii_case> {};
-
-TEST_P(ascii_cases_test, both_directions) {
-    ascii_case const& c = GetParam();
-    SCOPED_TRACE(c.reason);
-    codecvt_ascii_to_ustring const in(c.lenient);
-    codecvt_ustring_to_ascii const out(c.lenient);
-    std::u16string units;
-    std::string bytes;
-    EXPECT_EQ(thrown_id([&] { units = in.do_convert(c.bytes.data(), c.bytes.size()); }), c.error);
-    EXPECT_EQ(thrown_id([&] { bytes = out.do_convert(c.text.data(), c.text.size()); }), c.error);
-    EXPECT_EQ(thrown_id([&] { in.do_get_destination_size(c.bytes.data(), c.bytes.size()); }),
-              c.error);
-    if (c.error == 0) {
-        EXPECT_EQ(units, c.units);
-        EXPECT_EQ(bytes, c.back_bytes);
+TEST(ascii, cases_both_directions) {
+    for (ascii_case const& c : ascii_cases) {
+        SCOPED_TRACE(c.reason);
+        codecvt_ascii_to_ustring const in(c.lenient);
+        codecvt_ustring_to_ascii const out(c.lenient);
+        std::u16string units;
+        std::string bytes;
+        EXPECT_EQ(thrown_id([&] { units = in.do_convert(c.bytes.data(), c.bytes.size()); }),
+                  c.error);
+        EXPECT_EQ(thrown_id([&] { bytes = out.do_convert(c.text.data(), c.text.size()); }),
+                  c.error);
+        EXPECT_EQ(thrown_id([&] { in.do_get_destination_size(c.bytes.data(), c.bytes.size()); }),
+                  c.error);
+        if (c.error == 0) {
+            EXPECT_EQ(units, c.units);
+            EXPECT_EQ(bytes, c.back_bytes);
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(table, ascii_cases_test, ::testing::ValuesIn(ascii_cases));
 
 TEST(ascii, buffer_forms_return_the_stored_count) {
     char16_t wide[2] = {};
@@ -87,40 +85,25 @@ struct modified_utf8_case {
 };
 
 std::vector<modified_utf8_case> const modified_utf8_cases = {
-    {"NUL takes two bytes", std::u16string(1, u'\0') + u"a",
-     std::string("\xC0\x80"
-                 "a",
-                 3)},
+    {"NUL takes two bytes", std::u16string(1, u'\0') + u"z", std::string("\xC0\x80z", 3)},
     {"each surrogate encoded by itself", u"\U0001F600", "\xED\xA0\xBD\xED\xB8\x80"},
     {"BMP character as in UTF-8", u"\u00E9\u65E5", "\xC3\xA9\xE6\x97\xA5"},
     {"long text through the heap estimate", std::u16string(3000, u'\u00E9'),
-     [] {
-         std::string s;
-         for (int i = 0; i < 3000; ++i)
-             s += "\xC3\xA9";
-         return s;
-     }()},
+     repeat<std::string>("\xC3\xA9", 3000)},
     {"empty", u"", ""},
 };
 
-class modified_utf8_test : public ::testing::TestWithParam<modified_utf8_case> {};
-
-TEST_P(modified_utf8_test, round_trip) {
-    modified_utf8_case const& c = GetParam();
-    SCOPED_TRACE(c.reason);
-    check_conversion(codecvt_ustring_to_modified_utf8(), c.text, c.bytes, 0, true);
-    check_conversion(codecvt_modified_utf8_to_ustring(), c.bytes, c.text, 0, true);
+TEST(modified_utf8, cases_round_trip) {
+    for (modified_utf8_case const& c : modified_utf8_cases) {
+        SCOPED_TRACE(c.reason);
+        check_conversion(codecvt_ustring_to_modified_utf8(), c.text, c.bytes, 0, true);
+        check_conversion(codecvt_modified_utf8_to_ustring(), c.bytes, c.text, 0, true);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(table, modified_utf8_test, ::testing::ValuesIn(modified_utf8_cases));
 
 TEST(modified_utf8, illegal_bytes_are_replaced_and_sizes_checked) {
     codecvt_modified_utf8_to_ustring const in;
-    EXPECT_EQ(in.do_convert("a\xFF"
-                            "b",
-                            3),
-              u"a\uFFFD"
-              "b");
+    EXPECT_EQ(in.do_convert("a\xFFz", 3), u"a\uFFFDz");
     char16_t unit;
     EXPECT_EQ(thrown_id([&] { in.do_convert(&unit, 0x80000000u, "a", 1); }),
               codecvt_size_too_large);
@@ -144,25 +127,16 @@ std::vector<wide_case> const wide_cases = {
      std::u16string({char16_t(0xDC00), char16_t(0xDC00)}),
      std::wstring(1, wchar_t(0xFFFD)) + std::wstring(1, wchar_t(0xFFFD))},
     {"long text is measured first", std::wstring(1500, L'\U00010000'),
-     [] {
-         std::u16string s;
-         for (int i = 0; i < 1500; ++i)
-             s += u"\U00010000";
-         return s;
-     }(),
-     std::wstring(1500, L'\U00010000')},
+     repeat<std::u16string>(u"\U00010000", 1500), std::wstring(1500, L'\U00010000')},
 };
 
-class wide_test : public ::testing::TestWithParam<wide_case> {};
-
-TEST_P(wide_test, both_directions) {
-    wide_case const& c = GetParam();
-    SCOPED_TRACE(c.reason);
-    check_conversion(codecvt_wstring_to_ustring(), c.values, c.units, 0);
-    check_conversion(codecvt_ustring_to_wstring(), c.units, c.back, 0);
+TEST(wide, cases_both_directions) {
+    for (wide_case const& c : wide_cases) {
+        SCOPED_TRACE(c.reason);
+        check_conversion(codecvt_wstring_to_ustring(), c.values, c.units, 0);
+        check_conversion(codecvt_ustring_to_wstring(), c.units, c.back, 0);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(table, wide_test, ::testing::ValuesIn(wide_cases));
 
 TEST(wide, pair_cut_by_the_buffer_end_keeps_its_high_unit_uncounted) {
     char16_t buffer[2] = {u'#', u'#'};
@@ -175,5 +149,4 @@ TEST(wide, pair_cut_by_the_buffer_end_keeps_its_high_unit_uncounted) {
 }
 
 }  // namespace
-}  // namespace i18n
-}  // namespace fl
+}  // namespace fl::i18n

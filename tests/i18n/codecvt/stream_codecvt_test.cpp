@@ -9,8 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace fl {
-namespace i18n {
+namespace fl::i18n {
 namespace {
 
 // Feeds source in pieces whose lengths come from next_piece, with a small target so that the
@@ -108,5 +107,4 @@ TEST(stream_codecvt, max_char_size) {
 }
 
 }  // namespace
-}  // namespace i18n
-}  // namespace fl
+}  // namespace fl::i18n

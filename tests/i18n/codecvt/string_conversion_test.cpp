@@ -6,8 +6,7 @@
 
 #include <gtest/gtest.h>
 
-namespace fl {
-namespace i18n {
+namespace fl::i18n {
 namespace {
 
 TEST(string_conversion, null_and_empty_inputs_give_empty_results) {
@@ -58,5 +57,4 @@ TEST(string_conversion, thirty_two_bit_forms) {
 }
 
 }  // namespace
-}  // namespace i18n
-}  // namespace fl
+}  // namespace fl::i18n

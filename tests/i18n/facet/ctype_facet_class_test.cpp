@@ -57,7 +57,8 @@ TEST(CtypeFacet, RangeMasksJoinPairsAndNeverSetPrint) {
     EXPECT_TRUE(ctype().is(base::print, u'A'));
 }
 
-TEST(CtypeFacet, ScanningTranslatesTheMaskAndWalksLikeScan) {
+// How the walk treats surrogates is the scan's own, tested there.
+TEST(CtypeFacet, ScanningTranslatesTheMask) {
     struct {
         ustring text;
         base::mask m;
@@ -66,10 +67,7 @@ TEST(CtypeFacet, ScanningTranslatesTheMaskAndWalksLikeScan) {
     } const cases[] = {
         {u"abC1", base::upper | base::digit, true, 2},
         {u"ab1", base::alpha, false, 2},
-        {u"\t ", base::blank, true, 2},
-        {u"\xD801"
-         u"1\xDC00x",
-         base::digit, true, 4},  // the join two on skips the digit
+        {u"\t ", base::blank, true, 2},  // blank has no class: nothing matches
     };
     for (auto const& test : cases) {
         char16_t const* lo = test.text.data();

@@ -46,11 +46,4 @@ TEST(TerminalConverters, ActLikeLenientConvertersOnTheTerminalEncoding) {
     }
 }
 
-TEST(TerminalConverters, EveryCallBuildsANewConverter) {
-    auto const first = fl::i18n::create_codecvt_ustring_to_terminal();
-    auto const second = fl::i18n::create_codecvt_ustring_to_terminal();
-    EXPECT_NE(first.get(), second.get());
-    static_assert(sizeof(first) == sizeof(void*), "the result is one machine word wide");
-}
-
 }  // namespace

@@ -1,7 +1,6 @@
 #include "i18n/time/one_shot_conversion.hpp"
 
-#include <fl/i18n/codecvt/codecvt_exception.hpp>
-
+#include "i18n/codecvt/thrown_id.hpp"
 #include "i18n/codecvt/unique_converter.hpp"
 
 #include <gtest/gtest.h>
@@ -28,16 +27,6 @@ unique_converter strict(char const* encoding) {
                           &error);
     EXPECT_LE(error, U_ZERO_ERROR);
     return converter;
-}
-
-template <class F>
-int thrown_id(F&& f) {
-    try {
-        f();
-    } catch (fl::i18n::CvtExceptionBase const& e) {
-        return e.get_id();
-    }
-    return 0;
 }
 
 TEST(OneShotConversion, FailuresMapToTheConversionExceptions) {
