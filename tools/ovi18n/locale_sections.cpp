@@ -4,7 +4,6 @@
 
 #include <unicode/ucnv.h>
 #include <unicode/uloc.h>
-#include <unicode/unistr.h>
 
 #include <langinfo.h>
 
@@ -37,12 +36,6 @@ std::string unit_system_name(OvLocale const& locale) {
         default:
             return "us";
     }
-}
-
-std::string to_utf8(fl::i18n::ustring const& text) {
-    std::string out;
-    icu::UnicodeString(text.data(), static_cast<int32_t>(text.size())).toUTF8String(out);
-    return out;
 }
 
 }  // namespace
@@ -118,9 +111,11 @@ report::entry describe_icu_defaults(std::string key) {
 }
 
 report::entry describe_messages_fallback(std::string key) {
+    // UTF-8 whatever the process encoding, since the report must be readable as JSON.
+    fl::i18n::codecvt_ustring_to_string const utf8("UTF-8", true);
     std::vector<std::string> names;
     for (fl::i18n::ustring const& name : fl::i18n::get_fallback_locales(OvLocale::global())) {
-        names.push_back(to_utf8(name));
+        names.push_back(fl::i18n::to_string(name, utf8));
     }
     return report::list(std::move(key), names);
 }
