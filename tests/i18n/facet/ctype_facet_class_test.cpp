@@ -4,6 +4,7 @@
 
 #include <fl/i18n/ustring.hpp>
 
+#include <memory>
 #include <vector>
 
 using fl::i18n::ustring;
@@ -57,7 +58,7 @@ TEST(CtypeFacet, RangeMasksJoinPairsAndNeverSetPrint) {
     EXPECT_TRUE(ctype().is(base::print, u'A'));
 }
 
-// How the walk treats surrogates is the scan's own, tested there.
+// How the walk treats surrogates is the scan's own, tested there; the facet only bounds it.
 TEST(CtypeFacet, ScanningTranslatesTheMask) {
     struct {
         ustring text;
@@ -76,6 +77,23 @@ TEST(CtypeFacet, ScanningTranslatesTheMask) {
             test.inside ? ctype().scan_is(test.m, lo, hi) : ctype().scan_not(test.m, lo, hi);
         EXPECT_EQ(found - lo, test.hit) << "mask " << std::hex << test.m;
     }
+}
+
+// A high surrogate at the end must not make the scan look past hi (the heap buffer lets
+// AddressSanitizer see a read beyond it), nor return a position past hi when the units behind
+// the range would have formed a pair.
+TEST(CtypeFacet, ScanningStaysInsideItsRange) {
+    auto const tail = std::make_unique<char16_t[]>(2);
+    tail[0] = u'a';
+    tail[1] = 0xD801;
+    char16_t const* hi = tail.get() + 2;
+    EXPECT_EQ(ctype().scan_is(base::upper, tail.get(), hi), hi);
+    EXPECT_EQ(ctype().scan_not(base::lower, tail.get(), hi), tail.get() + 1);
+
+    ustring const padded = u"a\xD801\x0041\xDC00";
+    char16_t const* lo = padded.data();
+    EXPECT_EQ(ctype().scan_is(base::cntrl, lo, lo + 2), lo + 2);
+    EXPECT_EQ(ctype().scan_not(base::lower, lo, lo + 2), lo + 1);
 }
 
 TEST(CtypeFacet, CaseMappingKeepsPairsTogether) {
