@@ -1,6 +1,7 @@
 #include "i18n/catalog/catalog_text_trim.hpp"
 #include "i18n/catalog/expat_file_parser.hpp"
 #include "i18n/catalog/message_catalog_impl.hpp"
+#include "i18n/catalog/xml_catalog_data_store.hpp"
 
 #include "filesystem/streams/scratch_directory.hpp"
 
@@ -10,6 +11,7 @@
 
 #include <memory>
 #include <sstream>
+#include <vector>
 
 using fl::i18n::MessageCatalog;
 using fl::i18n::MessageCatalogImpl;
@@ -114,6 +116,23 @@ TEST(CatalogTextTrimTest, FormFeedIsNoBlank) {
     std::string text = " \t\v\r\n\fx\f\n\r\v\t ";
     fl::i18n::catalog::trim_catalog_text(text);
     EXPECT_EQ(text, "\fx\f");
+}
+
+// The store converts well-formed UTF-8 without a converter and skips unescape() without a
+// backslash; it must still give exactly what a "UTF-8" converter and unescape() give.
+TEST(XmlCatalogDataStoreTest, StoredTextEqualsConverterThenUnescape) {
+    fl::i18n::XMLCatalogDataStore store;
+    std::vector<std::string> const texts{
+        "plain",        "caf\xc3\xa9 \xf0\x9f\x98\x80", "\\u0041\\t", "bad \\u00",
+        "a\xff\xfe b",  "\xed\xa0\x80 surrogate",       "\xc3",       "",
+        "\xe6\x97\\x41"};
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        store.add_entry(std::to_string(i), texts[i]);
+        icu::UnicodeString const expected =
+            icu::UnicodeString(texts[i].data(), static_cast<int32_t>(texts[i].size()), "UTF-8")
+                .unescape();
+        EXPECT_EQ(*store.find(std::to_string(i)), expected) << texts[i];
+    }
 }
 
 TEST_F(CatalogFileTest, MissingFileFailsWithTheSameWords) {
