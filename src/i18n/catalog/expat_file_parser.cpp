@@ -20,7 +20,9 @@ using context = ExpatFileParser::callback_context;
 template <class Event>
 void deliver(void* data, Event event) {
     auto& ctx = *static_cast<context*>(data);
-    boost::shared_ptr<ExpatEventHandler> const handler = ctx.handler;
+    // The parser holds the handler for as long as expat can call back, so a reference does what
+    // a copy of the shared pointer per event would, without two atomic counts per event.
+    ExpatEventHandler* const handler = ctx.handler.get();
     if (!handler->parsing_ok()) {
         return;
     }

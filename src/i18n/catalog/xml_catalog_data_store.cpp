@@ -33,15 +33,22 @@ XMLCatalogDataStore::XMLCatalogDataStore() : entries_(16) {
 }
 
 void XMLCatalogDataStore::add_entry(std::string const& key, std::string const& text) {
-    if (entries_.find(key) != entries_.end()) {
+    // One lookup both finds an earlier entry of the key and makes the slot of a new one.
+    auto const slot = entries_.try_emplace(key);
+    if (!slot.second) {
         return;
     }
-    icu::UnicodeString value = from_utf8(text);
-    // unescape() of a text without a backslash is the text itself; skipping it saves a copy.
-    if (text.find('\\') != std::string::npos) {
-        value = value.unescape();
+    try {
+        icu::UnicodeString& value = slot.first->second;
+        value = from_utf8(text);
+        // unescape() of a text without a backslash is the text itself; skipping it saves a copy.
+        if (text.find('\\') != std::string::npos) {
+            value = value.unescape();
+        }
+    } catch (...) {
+        entries_.erase(slot.first);
+        throw;
     }
-    entries_.emplace(key, std::move(value));
 }
 
 icu::UnicodeString const* XMLCatalogDataStore::find(std::string const& key) const {
