@@ -4,7 +4,6 @@
 #include <resource_core/resource_core.hpp>
 
 #include <gtest/gtest.h>
-#include <boost/exception_ptr.hpp>
 
 using fl::i18n::CatalogID;
 using fl::i18n::MessageID;
@@ -90,16 +89,6 @@ TEST(MessageIdTest, ExtractComponentsReportsWithoutThrowing) {
     EXPECT_EQ(id.getCatalogID(), "a:b");
     EXPECT_THROW(id.setCompositeMsgID("a:b"), MessageID::badMessageIDException);
     EXPECT_EQ(id.getCompositeID(), "p:q:r");
-}
-
-TEST(MessageIdTest, ExceptionCrossesAnExceptionPtr) {
-    boost::exception_ptr failure;
-    try {
-        MessageID const id{std::string("bad")};
-    } catch (...) {
-        failure = boost::current_exception();
-    }
-    EXPECT_THROW(boost::rethrow_exception(failure), MessageID::badMessageIDException);
 }
 
 TEST(ResourceCoreTest, BareProductNameMapsToItsLegacyCatalog) {
