@@ -27,7 +27,8 @@ namespace {
 // 10 000 entries of about 80 bytes of Latin, accented and Japanese text, one per line; every
 // tenth entry runs over three lines.
 std::string const& sample_file() {
-    static std::string const path = [] {
+    // Never destroyed, so the removal at exit still finds the name.
+    static std::string const& path = *new std::string([] {
         char name[] = "/tmp/ovi18n_catalog_bench_XXXXXX";
         int const fd = mkstemp(name);
         if (fd < 0) {
@@ -51,7 +52,7 @@ std::string const& sample_file() {
         out << "</message>\n</rsccat>\n";
         std::atexit([] { std::remove(sample_file().c_str()); });
         return std::string(name);
-    }();
+    }());
     return path;
 }
 
