@@ -5,6 +5,7 @@
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
 
+#include <fl/i18n/catalog.hpp>
 #include <fl/i18n/codecvt.hpp>
 #include <fl/i18n/facet.hpp>
 #include <fl/i18n/lcctype.hpp>

@@ -1,0 +1,8 @@
+#ifndef FL_I18N_CATALOG_HPP
+#define FL_I18N_CATALOG_HPP
+
+#include <fl/i18n/catalog/catalog_id.hpp>
+#include <fl/i18n/catalog/message_catalog.hpp>
+#include <fl/i18n/catalog/message_id.hpp>
+
+#endif
