@@ -40,14 +40,6 @@ TEST(Timezone, RefusesIdentifiersItCannotUse) {
     EXPECT_THROW(timezone(std::string("Europe/Z\xC3\xBCrich")), invalid_timezone_id);
     // The identifier ends at its first NUL.
     EXPECT_EQ(timezone(fl::i18n::ustring(u"Asia/Tokyo\0junk", 15)).get_id(), u"Asia/Tokyo");
-    try {
-        timezone(std::string("nowhere"));
-        FAIL() << "no exception";
-    } catch (invalid_timezone_id const& e) {
-        EXPECT_STREQ(e.what(), "fl::i18n::timezone::invalid_timezone_id");
-        EXPECT_EQ(e.code(), 2);
-        EXPECT_EQ(e.description(), "Invalid timezone id.");
-    }
 }
 
 TEST(Timezone, CopiesAreEqualAndIndependent) {
@@ -57,8 +49,6 @@ TEST(Timezone, CopiesAreEqualAndIndependent) {
     berlin = timezone(std::string("America/New_York"));
     EXPECT_EQ(copy.get_id(), u"Europe/Berlin");
     EXPECT_NE(copy, berlin);
-    copy = copy;
-    EXPECT_EQ(copy, timezone(std::string("Europe/Berlin")));
 }
 
 struct instant_case {
@@ -77,21 +67,15 @@ TEST(Timezone, ConvertsKnownInstantsBothWays) {
         {"America/New_York", at(2021, 3, 14, 7, 0, 0), at(2021, 3, 14, 3, 0, 0)},
         {"America/New_York", at(2021, 3, 14, 6, 59, 59), at(2021, 3, 14, 1, 59, 59)},
         {"Asia/Tokyo", at(2021, 7, 15, 20, 30, 0), at(2021, 7, 16, 5, 30, 0)},
+        // Before 1970 the fraction comes back as a negative remainder of truncated seconds.
         {"Asia/Tokyo", at(1969, 12, 31, 23, 59, 59, 250000), at(1970, 1, 1, 8, 59, 59, 250000)},
+        {"UTC", at(1960, 6, 1, 10, 0, 0, 1), at(1960, 6, 1, 10, 0, 0, 1)},
     };
     for (auto const& c : cases) {
         timezone const zone{std::string(c.zone)};
         EXPECT_EQ(from_utc(c.utc, zone), c.local) << c.zone << " " << c.utc;
         EXPECT_EQ(to_utc(c.local, zone), c.utc) << c.zone << " " << c.local;
     }
-}
-
-TEST(Timezone, KeepsTheFractionBeforeNineteenSeventy) {
-    timezone const utc(std::string("UTC"));
-    // Seconds truncate toward zero, so the fraction comes back as a negative remainder.
-    EXPECT_EQ(from_utc(at(1969, 12, 31, 23, 59, 59, 250000), utc),
-              at(1969, 12, 31, 23, 59, 59, 250000));
-    EXPECT_EQ(from_utc(at(1960, 6, 1, 10, 0, 0, 1), utc), at(1960, 6, 1, 10, 0, 0, 1));
 }
 
 TEST(Timezone, SecondsAreThirtyTwoBits) {
@@ -101,23 +85,18 @@ TEST(Timezone, SecondsAreThirtyTwoBits) {
     EXPECT_THROW(to_utc(at(2050, 1, 1, 0, 0, 0), utc), invalid_time_data);
     try {
         from_utc(at(2038, 1, 19, 3, 14, 8), utc);
-    } catch (...) {
-        // Raised so that it survives a trip through exception_ptr with its type.
+    } catch (invalid_time_data const& e) {
+        // The identifier, not the sentence; and a clone through exception_ptr keeps the type.
+        EXPECT_STREQ(e.what(), "fl::i18n::timezone::invalid_time_data");
         EXPECT_THROW(boost::rethrow_exception(boost::current_exception()), invalid_time_data);
     }
 }
 
 TEST(Timezone, SpecialValuesGiveOrdinaryTimes) {
     timezone const utc(std::string("UTC"));
-    for (ptime special :
-         {ptime(boost::posix_time::not_a_date_time), ptime(boost::posix_time::pos_infin)}) {
-        ptime const result = from_utc(special, utc);
-        EXPECT_FALSE(result.is_special());
-        EXPECT_EQ(result.date().year(), 2035);
-    }
-    ptime const past = from_utc(ptime(boost::posix_time::neg_infin), utc);
-    EXPECT_FALSE(past.is_special());
-    EXPECT_EQ(past.date().year(), 1904);
+    EXPECT_EQ(from_utc(ptime(boost::posix_time::not_a_date_time), utc).date().year(), 2035);
+    EXPECT_EQ(from_utc(ptime(boost::posix_time::pos_infin), utc).date().year(), 2035);
+    EXPECT_EQ(from_utc(ptime(boost::posix_time::neg_infin), utc).date().year(), 1904);
 }
 
 TEST(Timezone, SeparateObjectsConvertInParallel) {
@@ -127,10 +106,9 @@ TEST(Timezone, SeparateObjectsConvertInParallel) {
         threads.emplace_back([i, &failures] {
             timezone const zone(std::string(i % 2 ? "Europe/Berlin" : "America/New_York"));
             ptime const utc = at(2021, 7, 15, 12, 0, 0, 42);
-            ptime const expected =
-                i % 2 ? at(2021, 7, 15, 14, 0, 0, 42) : at(2021, 7, 15, 8, 0, 0, 42);
+            ptime const local = at(2021, 7, 15, i % 2 ? 14 : 8, 0, 0, 42);
             for (int n = 0; n < 500; ++n) {
-                failures[i] += from_utc(utc, zone) != expected || to_utc(expected, zone) != utc;
+                failures[i] += from_utc(utc, zone) != local || to_utc(local, zone) != utc;
             }
         });
     }

@@ -1,9 +1,7 @@
-"""Runs 'ovi18n ARGS... --json' and checks the values of its document.
+"""usage: check_command_json.py TOOL ARG... -- PATH=VALUE...
 
-usage: check_command_json.py TOOL ARG... -- CHECK...
-A CHECK is PATH=VALUE (VALUE is compared as JSON, or as a plain string). PATH is dotted; a part
-KEY:VALUE picks the first element of a list whose KEY is VALUE, as in encodings.name:UTF-8.
-"""
+Runs 'TOOL ARG... --json' and compares values (as JSON or as plain strings). PATH is dotted; a
+part KEY:VALUE picks the list element whose KEY is VALUE, as in encodings.name:UTF-8."""
 import json
 import subprocess
 import sys
