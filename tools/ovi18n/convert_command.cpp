@@ -131,6 +131,7 @@ public:
     int convert(std::FILE* in, std::string const& name, std::uint64_t size) {
         fl::i18n::stream_codecvt_string_to_ustring decoder(options_.from, options_.mode != "stop");
         progress_line progress(!options_.quiet, size);
+        progress_ = &progress;
         name_ = name;
         std::vector<char> piece(history_size + piece_size);
         std::size_t history = 0;
@@ -234,6 +235,7 @@ private:
 
     int fail(std::string const& what) {
         std::fflush(stdout);
+        progress_->clear();
         std::cerr << "ovi18n: " << what << "\n";
         return 1;
     }
@@ -244,6 +246,7 @@ private:
     std::vector<char> encoded_ = std::vector<char>(piece_size * 4);
     std::u16string pending_;
     std::string name_;
+    progress_line* progress_ = nullptr;
 };
 
 }  // namespace

@@ -19,8 +19,14 @@ progress_line::progress_line(bool wanted, std::uint64_t total)
       last_(start_) {}
 
 progress_line::~progress_line() {
+    clear();
+}
+
+void progress_line::clear() {
     if (drawn_) {
         std::fputs("\r\033[K", stderr);
+        std::fflush(stderr);
+        drawn_ = false;
     }
 }
 

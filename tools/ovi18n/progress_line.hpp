@@ -16,6 +16,8 @@ public:
     ~progress_line();
 
     void update(std::uint64_t done);
+    // Takes the line away, so that a message can start at the left margin.
+    void clear();
 
 private:
     bool shown_;
