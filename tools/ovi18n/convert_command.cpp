@@ -1,6 +1,7 @@
 #include "bad_input_locator.hpp"
 #include "commands.hpp"
 #include "progress_line.hpp"
+#include "text_position.hpp"
 #include "usage_error.hpp"
 
 #include <fl/i18n.hpp>
@@ -12,7 +13,6 @@
 #include <cstdio>
 #include <cstring>
 #include <iostream>
-#include <iterator>
 #include <map>
 #include <memory>
 #include <stdexcept>
@@ -83,45 +83,6 @@ std::string hex(std::string const& bytes) {
     }
     return out;
 }
-
-// Line feeds among the units, four units to a 64-bit word: after the XOR a lane is zero exactly
-// where a line feed was, and the sum sets a lane's top bit unless its other bits are all zero.
-std::uint64_t count_line_feeds(char16_t const* first, char16_t const* last) {
-    constexpr std::uint64_t line_feeds = 0x000A000A000A000AULL;
-    constexpr std::uint64_t low_bits = 0x7FFF7FFF7FFF7FFFULL;
-    std::uint64_t count = 0;
-    for (; last - first >= 4; first += 4) {
-        std::uint64_t word;
-        std::memcpy(&word, first, sizeof word);
-        std::uint64_t const x = word ^ line_feeds;
-        count += static_cast<std::uint64_t>(
-            __builtin_popcountll(~(((x & low_bits) + low_bits) | x | low_bits)));
-    }
-    return count + static_cast<std::uint64_t>(std::count(first, last, u'\n'));
-}
-
-// Line and column (1-based, in characters) of the decoded text so far.
-struct text_position {
-    std::uint64_t line = 1;
-    std::uint64_t column = 1;
-
-    // Runs on every piece of the default mode, so lines are counted a word at a time and only
-    // the text after the last line break is walked for the column.
-    void advance(char16_t const* text, std::size_t size) {
-        char16_t const* const end = text + size;
-        char16_t const* const last_break =
-            std::find(std::reverse_iterator<char16_t const*>(end),
-                      std::reverse_iterator<char16_t const*>(text), u'\n')
-                .base();
-        if (last_break != text) {
-            line += count_line_feeds(text, last_break);
-            column = 1;
-        }
-        // A low surrogate ends a character that its high surrogate already counted.
-        column += static_cast<std::uint64_t>(std::count_if(
-            last_break, end, [](char16_t unit) { return (unit & 0xFC00) != 0xDC00; }));
-    }
-};
 
 class converter_run {
 public:
