@@ -2,10 +2,17 @@
 #define OVI18N_TOOL_COMMANDS_HPP
 
 #include <ostream>
+#include <string>
+#include <vector>
 
 namespace ovi18n_tool {
 
 int run_locale(std::ostream& out, bool json);
+// The arguments after the command's name; usage errors return 2, library errors propagate.
+int run_tz(std::vector<std::string> const& args, std::ostream& out);
+int run_encodings(std::vector<std::string> const& args, std::ostream& out);
+// Writes the converted text to standard output.
+int run_convert(std::vector<std::string> const& args);
 
 }  // namespace ovi18n_tool
 

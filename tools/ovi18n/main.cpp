@@ -13,7 +13,13 @@ void print_help(std::ostream& out) {
     out << "usage: ovi18n <command> [options]\n"
            "\n"
            "commands:\n"
-           "  locale [--json]   start the library and explain the locale it decided on\n"
+           "  locale [--json]                 explain the locale the library decided on\n"
+           "  convert --from ENC --to ENC [--on-error MODE] [--quiet] [FILE...]  re-encode text\n"
+           "  encodings [--json]              the encodings the library can open\n"
+           "  tz [ZONE] [--at TIME] [--json]  a time (ISO 8601) to and from UTC in a zone\n"
+           "  (convert's MODE: stop (default), replace, substitute=BYTES, escape-icu, "
+           "escape-java,\n"
+           "   escape-c, escape-xml-dec, escape-xml-hex, escape-unicode, escape-css2)\n"
            "\n"
            "options:\n"
            "  --version         print the library's version, path and build date\n"
@@ -54,6 +60,16 @@ int run(std::vector<std::string> const& args) {
             }
         }
         return ovi18n_tool::run_locale(std::cout, json);
+    }
+    std::vector<std::string> const rest(args.begin() + 1, args.end());
+    if (command == "convert") {
+        return ovi18n_tool::run_convert(rest);
+    }
+    if (command == "encodings") {
+        return ovi18n_tool::run_encodings(rest, std::cout);
+    }
+    if (command == "tz") {
+        return ovi18n_tool::run_tz(rest, std::cout);
     }
     return usage_error("unknown command '" + command + "'");
 }
