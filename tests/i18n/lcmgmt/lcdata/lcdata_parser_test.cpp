@@ -2,7 +2,7 @@
 #include <fl/i18n/lcmgmt/lcdb.hpp>
 
 #include "filesystem/streams/scratch_directory.hpp"
-#include "i18n/lcmgmt/lcdata_parser.hpp"
+#include "i18n/lcmgmt/startup/lcdata_parser.hpp"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 
 #include "common/ascii.hpp"
 #include "filesystem/install_root.hpp"
-#include "i18n/lcmgmt/lcdata_parser.hpp"
 #include "i18n/lcmgmt/locale_env_apply.hpp"
 #include "i18n/lcmgmt/manager_context.hpp"
+#include "i18n/lcmgmt/startup/lcdata_parser.hpp"
 #include "i18n/lcmgmt/system_setting_reader.hpp"
 
 #include <unicode/locid.h>
