@@ -64,9 +64,6 @@ private:
 // Gives messages in English from here on; the caller holds the mutex.
 void switch_to_english_messages(manager_context& context);
 
-// The start-up work of initLcMgmtSystem; the caller holds the mutex.
-void run_startup_sequence(manager_context& context);
-
 }  // namespace lcmgmt
 }  // namespace i18n
 }  // namespace fl

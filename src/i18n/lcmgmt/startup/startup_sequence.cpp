@@ -6,6 +6,7 @@
 #include "i18n/lcmgmt/locale_env_apply.hpp"
 #include "i18n/lcmgmt/manager_context.hpp"
 #include "i18n/lcmgmt/startup/lcdata_parser.hpp"
+#include "i18n/lcmgmt/startup/startup_sequence.hpp"
 #include "i18n/lcmgmt/system_setting_reader.hpp"
 
 #include <unicode/locid.h>
