@@ -6,6 +6,7 @@
 #include <fl/i18n/lcmgmt/ov_locale.hpp>
 #include <fl/i18n/lcmgmt/ov_locale_impl.hpp>
 
+#include "i18n/lcmgmt/lc_status.hpp"
 #include "i18n/lcmgmt/locale_env_snapshot.hpp"
 
 #include <boost/thread/mutex.hpp>
@@ -31,7 +32,7 @@ public:
     static manager_context& instance();
 
     bool initialized = false;
-    std::int32_t status = 2;
+    std::int32_t status = status_not_initialized;
     std::string status_message;
     Lcdb database;
     locale_env_snapshot setting;
