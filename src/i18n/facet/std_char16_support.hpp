@@ -48,7 +48,9 @@ ctype_byname<char16_t>::ctype_byname(char const* name, size_t refs);
 
 template <>
 numpunct<char16_t>::~numpunct();
+// libstdc++ names this member; the library only defines it.
 template <>
+// NOLINTNEXTLINE(bugprone-reserved-identifier)
 void numpunct<char16_t>::_M_initialize_numpunct(__c_locale cloc);
 
 }  // namespace std
