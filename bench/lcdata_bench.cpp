@@ -3,7 +3,7 @@
 
 #include <fl/i18n/lcmgmt/lcdb.hpp>
 
-#include "i18n/lcmgmt/lcdata_parser.hpp"
+#include "i18n/lcmgmt/startup/lcdata_parser.hpp"
 
 #include <benchmark/benchmark.h>
 #include <expat.h>

@@ -1,7 +1,7 @@
 #include <fl/i18n/lcmgmt/lc_rsc_exception.hpp>
 #include <fl/i18n/lcmgmt/lcdb.hpp>
 
-#include "i18n/lcmgmt/lcdata_parser.hpp"
+#include "i18n/lcmgmt/startup/lcdata_parser.hpp"
 
 #include <cstddef>
 #include <cstdint>

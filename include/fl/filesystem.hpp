@@ -8,7 +8,6 @@
 #include <fl/filesystem/basic_path.hpp>
 #include <fl/filesystem/boost_path_bridge.hpp>
 #include <fl/filesystem/file_status.hpp>
-#include <fl/filesystem/filename_conversion.hpp>
 #include <fl/filesystem/filename_converter.hpp>
 #include <fl/filesystem/filesystem_error.hpp>
 #include <fl/filesystem/fsys_exception.hpp>

@@ -7,7 +7,7 @@
 
 #include "common/throw_exception.hpp"
 #include "filesystem/operation_arguments.hpp"
-#include "filesystem/posix_platform.hpp"
+#include "platform/posix_platform.hpp"
 
 namespace fl {
 namespace filesystem {

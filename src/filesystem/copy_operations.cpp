@@ -9,8 +9,8 @@
 #include "common/throw_exception.hpp"
 #include "filesystem/link_primitives.hpp"
 #include "filesystem/operation_arguments.hpp"
-#include "filesystem/posix_platform.hpp"
 #include "filesystem/stat_conversion.hpp"
+#include "platform/posix_platform.hpp"
 
 #include <boost/filesystem/operations.hpp>
 #include <boost/system/error_code.hpp>

@@ -5,7 +5,7 @@
 #include <fl/filesystem/path_resolution.hpp>
 
 #include "filesystem/operation_arguments.hpp"
-#include "filesystem/posix_platform.hpp"
+#include "platform/posix_platform.hpp"
 
 #include <boost/thread/lock_types.hpp>
 #include <boost/thread/once.hpp>

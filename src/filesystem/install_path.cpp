@@ -4,7 +4,7 @@
 #include <fl/filesystem/path_algebra.hpp>
 
 #include "filesystem/install_root.hpp"
-#include "filesystem/posix_platform.hpp"
+#include "platform/posix_platform.hpp"
 
 #include <boost/thread/once.hpp>
 

@@ -8,7 +8,7 @@
 #include "common/throw_exception.hpp"
 #include "filesystem/link_primitives.hpp"
 #include "filesystem/operation_arguments.hpp"
-#include "filesystem/posix_platform.hpp"
+#include "platform/posix_platform.hpp"
 
 #include <cerrno>
 #include <new>

@@ -7,7 +7,7 @@
 #include "common/throw_exception.hpp"
 #include "filesystem/current_directory.hpp"
 #include "filesystem/operation_arguments.hpp"
-#include "filesystem/posix_platform.hpp"
+#include "platform/posix_platform.hpp"
 
 #include <cerrno>
 

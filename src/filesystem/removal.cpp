@@ -6,8 +6,8 @@
 
 #include "common/throw_exception.hpp"
 #include "filesystem/operation_arguments.hpp"
-#include "filesystem/posix_platform.hpp"
 #include "filesystem/stat_conversion.hpp"
+#include "platform/posix_platform.hpp"
 
 #include <cerrno>
 

@@ -6,7 +6,7 @@
 #include <fl/filesystem/path_algebra.hpp>
 
 #include "common/throw_exception.hpp"
-#include "filesystem/posix_platform.hpp"
+#include "platform/posix_platform.hpp"
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -2,7 +2,7 @@
 
 #include <fl/filesystem/access_form.hpp>
 
-#include "filesystem/posix_platform.hpp"
+#include "platform/posix_platform.hpp"
 
 namespace fl {
 namespace filesystem {

@@ -12,3 +12,12 @@ foreach(file bin/lcdata.xml bin/x64linux/libovi18n.so include/fl/i18n.hpp
         message(FATAL_ERROR "not installed: ${file}")
     endif()
 endforeach()
+
+# A consumer compiles against the installed headers without ICU's or expat's: none may include them.
+file(GLOB_RECURSE installed_headers ${PREFIX}/include/*)
+foreach(header IN LISTS installed_headers)
+    file(STRINGS ${header} third_party REGEX "#[ \t]*include[ \t]*[<\"](unicode/|expat)")
+    if(third_party)
+        message(FATAL_ERROR "${header} includes ICU or expat: ${third_party}")
+    endif()
+endforeach()

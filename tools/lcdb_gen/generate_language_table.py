@@ -408,6 +408,44 @@ std::size_t const language_row_count = sizeof(language_rows) / sizeof(language_r
 '''
 
 
+def write_extract(args, directory):
+    """Copies the parts of the inputs that the generator reads, for the languages it knows.
+
+    The regeneration test runs on this extract, so a newer CLDR or glibc on the machine can't
+    change its answer; refreshing the table means refreshing the extract first.
+    """
+    names = os.path.join(args.data_dir, 'lcdb_names_data.cpp')
+    languages = set(read_string_array(names, 'language_names'))
+    os.makedirs(directory, exist_ok=True)
+
+    def known(type_text):
+        return type_text.split('_')[0] in languages
+
+    supplemental = ET.parse(os.path.join(args.cldr_dir, 'supplementalData.xml')).getroot()
+    kept = ET.Element('supplementalData')
+    language_data = ET.SubElement(kept, 'languageData')
+    language_data.extend(e for e in supplemental.find('languageData') if known(e.get('type')))
+    territory_info = ET.SubElement(kept, 'territoryInfo')
+    for territory in supplemental.find('territoryInfo'):
+        populations = [p for p in territory.findall('languagePopulation') if known(p.get('type'))]
+        if populations:
+            ET.SubElement(territory_info, 'territory', type=territory.get('type')).extend(
+                ET.Element('languagePopulation', type=p.get('type')) for p in populations)
+    likely = ET.parse(os.path.join(args.cldr_dir, 'likelySubtags.xml')).getroot()
+    kept_likely = ET.Element('supplementalData')
+    subtags = ET.SubElement(kept_likely, 'likelySubtags')
+    subtags.extend(ET.Element('likelySubtag', {'from': s.get('from'), 'to': s.get('to')})
+                   for s in likely.iter('likelySubtag') if known(s.get('from')))
+    for tree, name in ((kept, 'supplementalData.xml'), (kept_likely, 'likelySubtags.xml')):
+        ET.indent(tree)
+        ET.ElementTree(tree).write(os.path.join(directory, name), encoding='utf-8',
+                                   xml_declaration=True)
+    with open(args.supported, encoding='utf-8') as source, \
+            open(os.path.join(directory, 'SUPPORTED'), 'w', encoding='utf-8') as target:
+        target.writelines(line for line in source
+                          if re.match(r'^([a-z]{2,3})_', line) and known(line.split()[0]))
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument('--cldr-dir', default='/usr/share/unicode/cldr/common/supplemental')
@@ -418,12 +456,17 @@ def main():
     parser.add_argument('--check', metavar='FILE',
                         help='after writing, compare the output with FILE byte for byte; exit 1 '
                              'when they differ and 77 when an input is missing')
+    parser.add_argument('--extract', metavar='DIR',
+                        help='write the parts of the inputs the generator reads into DIR and stop')
     args = parser.parse_args()
     for path in (os.path.join(args.cldr_dir, 'supplementalData.xml'),
                  os.path.join(args.cldr_dir, 'likelySubtags.xml'), args.supported):
         if not os.path.exists(path):
             print('input missing: %s' % path, file=sys.stderr)
             sys.exit(77 if args.check else 2)
+    if args.extract:
+        write_extract(args, args.extract)
+        return
     generator = Generator(args)
     text = generator.render(generator.table())
     with open(args.output, 'w', encoding='utf-8', newline='\n') as f:

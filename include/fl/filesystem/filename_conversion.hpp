@@ -4,10 +4,12 @@
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/ustring.hpp>
 
-#include <unicode/ucnv_err.h>
-
 #include <cstddef>
 #include <string>
+
+// ICU's converter, by its C name only: no installed header includes ICU, and these detail
+// routines are for the library's own converters. Not reachable from <fl/filesystem.hpp>.
+struct UConverter;
 
 namespace fl {
 namespace filesystem {

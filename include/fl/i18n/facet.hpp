@@ -4,6 +4,5 @@
 #include <fl/i18n/facet/ctype_facet.hpp>
 #include <fl/i18n/facet/global_std_locale.hpp>
 #include <fl/i18n/facet/numpunct_facet.hpp>
-#include <fl/i18n/facet/std_char16_support.hpp>
 
 #endif

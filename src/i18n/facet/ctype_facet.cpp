@@ -3,6 +3,7 @@
 #include <fl/i18n/lcmgmt/ov_locale.hpp>
 
 #include "i18n/facet/class_mask.hpp"
+#include "i18n/facet/std_char16_support.hpp"
 #include "i18n/lcctype/posix_class_test.hpp"
 #include "i18n/lcctype/scan_walk.hpp"
 

@@ -5,6 +5,7 @@
 #include "common/throw_exception.hpp"
 #include "i18n/codecvt/codecvt_context.hpp"
 #include "i18n/codecvt/conversion_error.hpp"
+#include "i18n/facet/std_char16_support.hpp"
 
 #include <unicode/ucnv.h>
 

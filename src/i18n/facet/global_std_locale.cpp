@@ -5,6 +5,7 @@
 #include <fl/i18n/lcmgmt/ov_locale.hpp>
 
 #include "common/visible_call_once.hpp"
+#include "i18n/facet/std_char16_support.hpp"
 
 #include <boost/thread/lock_types.hpp>
 #include <boost/thread/mutex.hpp>

@@ -1,5 +1,7 @@
 #include <fl/i18n/facet/numpunct_facet.hpp>
 
+#include "i18n/facet/std_char16_support.hpp"
+
 namespace fl {
 namespace i18n {
 namespace facet {

@@ -1,4 +1,4 @@
-#include <fl/i18n/facet/std_char16_support.hpp>
+#include "i18n/facet/std_char16_support.hpp"
 
 #include "i18n/facet/class_mask.hpp"
 #include "i18n/lcctype/ascii_class_table.hpp"

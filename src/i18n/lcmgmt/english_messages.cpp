@@ -17,7 +17,7 @@ void switch_to_english_messages(manager_context& context) {
     context.english_messages_locale.release();
     context.english_messages_locale = std::move(english);
     context.global_locale.store(context.english_messages_locale.get());
-    context.setting.l10n_control = 2;
+    context.setting.l10n_control = l10n_off;
     switch_lc_messages(context.setting);
 }
 

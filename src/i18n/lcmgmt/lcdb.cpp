@@ -69,7 +69,7 @@ Lcdb::Lcdb() {
         fill_builtin_tables();
     } catch (std::exception const& e) {
         // The tables stay as far as they got; start-up reports the status instead of failing.
-        status_ = 5;
+        status_ = builtin_tables_failed;
         status_message_ = e.what();
     }
 }

@@ -3,14 +3,6 @@
 namespace fl {
 namespace i18n {
 namespace lcmgmt {
-namespace {
-
-constexpr std::int32_t done = 0;
-constexpr std::int32_t empty_argument = 2;
-constexpr std::int32_t absent = 3;
-
-}  // namespace
-
 std::shared_ptr<encoding_entry_context> Lcdb::find_or_create_encoding(std::string const& name) {
     std::string key = normalise_encoding_key(name);
     auto const found = encodings_.find(key);

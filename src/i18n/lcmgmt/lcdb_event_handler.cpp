@@ -220,7 +220,7 @@ void LcdbEventHandler::addEncodingAlias(std::string const& name, std::string con
 
 void LcdbEventHandler::warn_unless_done(char const* prefix, std::int32_t code,
                                         std::vector<std::string> const& arguments) {
-    if (code == 0) {
+    if (code == Lcdb::done) {
         return;
     }
     std::string warning = prefix + std::to_string(code);

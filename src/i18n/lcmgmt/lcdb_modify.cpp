@@ -5,15 +5,6 @@
 namespace fl {
 namespace i18n {
 namespace lcmgmt {
-namespace {
-
-constexpr std::int32_t done = 0;
-constexpr std::int32_t nothing_to_do = 1;
-constexpr std::int32_t empty_argument = 2;
-constexpr std::int32_t absent = 3;
-constexpr std::int32_t protected_entry = 4;
-
-}  // namespace
 
 // The key under which everything about a locale is stored: the name's own key when it is a known
 // alias or resolves to no language (then it becomes a canonical name of its own), else the key

@@ -26,7 +26,7 @@ void apply_locale_setting(locale_env_snapshot const& setting) {
 void switch_lc_messages(locale_env_snapshot& setting) {
     ::unsetenv("LC_MESSAGES");
     std::string& messages = setting.new_env[lc_messages_index];
-    if (setting.l10n_control == 2) {
+    if (setting.l10n_control == l10n_off) {
         // With LANG=C messages are English already; no variable is needed for that.
         if (setting.new_env[lang_var] == "C") {
             messages.clear();

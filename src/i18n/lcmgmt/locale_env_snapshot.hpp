@@ -27,6 +27,14 @@ extern int const posix_categories[posix_category_count];
 extern char const* const locale_env_var_names[locale_env_var_count];
 
 // What start-up found in the environment and the C library, and what it decided.
+// OVLOCALE_L10N_CONTROL as start-up read it; the database's "disable_l10n" flag can turn an
+// unspecified setting into "off".
+enum l10n_control_value : std::int32_t {
+    l10n_unspecified = 0,
+    l10n_on = 1,
+    l10n_off = 2,
+};
+
 struct locale_env_snapshot {
     std::map<std::string, std::string> override_values;
     std::array<std::string, posix_category_count> xpg;
@@ -43,8 +51,7 @@ struct locale_env_snapshot {
     std::array<std::string, locale_env_var_count> new_env;
     std::vector<std::string> error_events;
     bool use_utf8_as_default = false;
-    // 0 unspecified, 1 "on", 2 "off".
-    std::int32_t l10n_control = 0;
+    std::int32_t l10n_control = l10n_unspecified;
 };
 
 }  // namespace lcmgmt

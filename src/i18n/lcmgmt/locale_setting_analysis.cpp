@@ -84,7 +84,7 @@ bool analyse_locale_setting(Lcdb const& database, locale_env_snapshot& setting) 
             }
         }
     }
-    if (setting.l10n_control == 2 && setting.new_env[lang_var] != "C") {
+    if (setting.l10n_control == l10n_off && setting.new_env[lang_var] != "C") {
         setting.new_env[lc_messages_index] = "C";
     }
     return valid;

@@ -1,10 +1,6 @@
 #include <fl/i18n/lcmgmt/manager.hpp>
 
-#include <fl/i18n/facet/global_std_locale.hpp>
-
 #include "i18n/lcmgmt/manager_context.hpp"
-
-#include "common/visible_call_once.hpp"
 
 #include <boost/thread/locks.hpp>
 
@@ -15,30 +11,7 @@ namespace {
 using lcmgmt::manager_context;
 using lock = boost::unique_lock<boost::mutex>;
 
-boost::once_flag initialize_once = BOOST_ONCE_INIT;
-
-// The standard-library locale needs the encoding start-up decides, so it comes second.
-void run_initialize() {
-    initLcMgmtSystem();
-    facet::init_global_std_locale(0x15);
-}
-
 }  // namespace
-
-void initialize() {
-    fl::detail::visible_call_once(initialize_once, &run_initialize);
-}
-
-void initLcMgmtSystem() {
-    manager_context& context = manager_context::instance();
-    lock guard(context.mutex);
-    if (context.initialized) {
-        return;
-    }
-    // Set first, so a start-up that fails half way is never retried.
-    context.initialized = true;
-    lcmgmt::run_startup_sequence(context);
-}
 
 void lock_global_locale_setting() {
     manager_context& context = manager_context::instance();

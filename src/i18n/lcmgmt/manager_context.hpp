@@ -6,6 +6,7 @@
 #include <fl/i18n/lcmgmt/ov_locale.hpp>
 #include <fl/i18n/lcmgmt/ov_locale_impl.hpp>
 
+#include "i18n/lcmgmt/lc_status.hpp"
 #include "i18n/lcmgmt/locale_env_snapshot.hpp"
 
 #include <boost/thread/mutex.hpp>
@@ -31,7 +32,7 @@ public:
     static manager_context& instance();
 
     bool initialized = false;
-    std::int32_t status = 2;
+    std::int32_t status = status_not_initialized;
     std::string status_message;
     Lcdb database;
     locale_env_snapshot setting;
@@ -63,9 +64,6 @@ private:
 
 // Gives messages in English from here on; the caller holds the mutex.
 void switch_to_english_messages(manager_context& context);
-
-// The start-up work of initLcMgmtSystem; the caller holds the mutex.
-void run_startup_sequence(manager_context& context);
 
 }  // namespace lcmgmt
 }  // namespace i18n

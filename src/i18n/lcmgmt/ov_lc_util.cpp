@@ -20,13 +20,13 @@ std::int32_t OvLcUtil::getLcStatus() {
 
 std::string OvLcUtil::getInitStatusMsg() {
     switch (getLcStatus()) {
-        case 0:
-        case 3:
+        case lcmgmt::status_initialized:
+        case lcmgmt::status_invalid_setting:
             return "Orvane locale management system initialized.";
-        case 1:
+        case lcmgmt::status_database_failed:
             return "Failed to load Orvane locale database. Using Orvane default locale setting "
                    "instead.";
-        case 2:
+        case lcmgmt::status_not_initialized:
             return "Orvane locale management system not initialized.";
         default:
             return std::string();

@@ -1,6 +1,7 @@
 #include "i18n/lcmgmt/system_setting_reader.hpp"
 
 #include "i18n/lcmgmt/encoding_standard_name.hpp"
+#include "i18n/lcmgmt/lc_status.hpp"
 
 #include <langinfo.h>
 #include <clocale>
@@ -35,11 +36,11 @@ system_setting_reader::system_setting_reader(Lcdb const& database, OvLocaleImpl&
       setting_(setting) {}
 
 void system_setting_reader::read() {
-    status_ = 0;
+    status_ = status_initialized;
     read_c_library();
     bool const valid = analyse_locale_setting(database_, setting_);
     resolve_encodings(valid);
-    if (setting_.l10n_control == 0) {
+    if (setting_.l10n_control == l10n_unspecified) {
         apply_l10n_data();
     }
     fill_system_locale();
@@ -61,7 +62,7 @@ void system_setting_reader::read_c_library() {
 
 void system_setting_reader::resolve_encodings(bool valid) {
     if (!valid) {
-        status_ = 3;
+        status_ = status_invalid_setting;
         status_message_ = invalid_locale_message;
         setting_.encoding = fallback_encoding;
         setting_.terminal_encoding = fallback_encoding;
@@ -77,7 +78,7 @@ void system_setting_reader::resolve_encodings(bool valid) {
         *target = name;
         if (target->empty()) {
             *target = fallback_encoding;
-            status_ = 3;
+            status_ = status_invalid_setting;
             status_message_ = invalid_locale_message;
         }
     }
@@ -89,7 +90,7 @@ void system_setting_reader::apply_l10n_data() {
         database_.optional_data(setting_.category_locale[lc_messages_index].first, "disable_l10n")
             .first;
     if (disable.find('L') != std::string::npos) {
-        setting_.l10n_control = 2;
+        setting_.l10n_control = l10n_off;
     }
 }
 

@@ -2,7 +2,7 @@
 
 #include "i18n/time/one_shot_conversion.hpp"
 
-#include "filesystem/posix_platform.hpp"
+#include "platform/posix_platform.hpp"
 
 namespace fl {
 namespace i18n {

@@ -2,7 +2,6 @@
 #define FL_I18N_FACET_NUMPUNCT_FACET_HPP
 
 #include <fl/i18n/export.hpp>
-#include <fl/i18n/facet/std_char16_support.hpp>
 #include <fl/i18n/ustring.hpp>
 
 #include <locale>

@@ -20,19 +20,27 @@ namespace lcmgmt {
 // The locale and encoding database: built-in tables, extended by lcdata.xml at start-up. Every
 // value is a pointer into static or pooled text, so lookups copy nothing. It is written only
 // during start-up, under the manager's mutex, and read without locks afterwards.
-//
-// Modify operations answer with a code: 0 done, 1 nothing to do, 2 an argument was empty,
-// 3 absent, 4 protected (or the locale is unknown).
 class FL_I18N_API Lcdb {
 public:
     using opt_data = std::pair<std::string, ustring>;
+
+    // The answers of the modify operations; the values are part of the warnings start-up gives.
+    enum modify_result : std::int32_t {
+        done = 0,
+        nothing_to_do = 1,
+        empty_argument = 2,
+        absent = 3,
+        protected_entry = 4,  // also: the locale is unknown
+    };
+    // status() when filling the built-in tables failed.
+    static constexpr std::int32_t builtin_tables_failed = 5;
 
     Lcdb();
     ~Lcdb();
     Lcdb(Lcdb const&) = delete;
     Lcdb& operator=(Lcdb const&) = delete;
 
-    // 0, or 5 when filling the built-in tables failed; the message is the failure's what().
+    // 0, or builtin_tables_failed; the message is then the failure's what().
     std::int32_t status() const noexcept { return status_; }
     std::string const& status_message() const noexcept { return status_message_; }
 

@@ -3,7 +3,7 @@
 
 #include "filesystem/streams/scratch_directory.hpp"
 #include "i18n/lcmgmt/event_handler.hpp"
-#include "i18n/lcmgmt/lcdata_parser.hpp"
+#include "i18n/lcmgmt/startup/lcdata_parser.hpp"
 
 #include <gtest/gtest.h>
 

@@ -3,10 +3,16 @@
 
 #include <locale>
 
+#ifndef __GLIBCXX__
+#error "The char16_t facets build on libstdc++'s own ctype and numpunct members."
+#endif
+
 // The standard library declares ctype and numpunct for every character type but defines their
 // members for char and wchar_t only. These are the char16_t members, defined in this library,
-// so that the facets for char16_t can derive from the standard ones. The plain std::ctype and
-// std::numpunct for char16_t behave like the "C" locale on ASCII.
+// so that the facets for char16_t can derive from the standard ones. They name libstdc++'s
+// internals (__c_locale, the numpunct cache), so they stay out of the installed headers: the
+// standard templates leave these members undefined, and consumers link the ones here. The plain
+// std::ctype and std::numpunct for char16_t behave like the "C" locale on ASCII.
 namespace std {
 
 template <>
@@ -42,7 +48,9 @@ ctype_byname<char16_t>::ctype_byname(char const* name, size_t refs);
 
 template <>
 numpunct<char16_t>::~numpunct();
+// libstdc++ names this member; the library only defines it.
 template <>
+// NOLINTNEXTLINE(bugprone-reserved-identifier)
 void numpunct<char16_t>::_M_initialize_numpunct(__c_locale cloc);
 
 }  // namespace std

@@ -1,5 +1,5 @@
-#ifndef FL_FILESYSTEM_POSIX_PLATFORM_HPP
-#define FL_FILESYSTEM_POSIX_PLATFORM_HPP
+#ifndef FL_PLATFORM_POSIX_PLATFORM_HPP
+#define FL_PLATFORM_POSIX_PLATFORM_HPP
 
 #include <dirent.h>
 #include <sys/stat.h>

@@ -1,4 +1,4 @@
-#include "i18n/lcmgmt/lcdata_parser.hpp"
+#include "i18n/lcmgmt/startup/lcdata_parser.hpp"
 
 #include <fl/filesystem/basic_ifstream.hpp>
 #include <fl/i18n/lcmgmt/lc_rsc_exception.hpp>

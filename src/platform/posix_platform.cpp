@@ -1,4 +1,4 @@
-#include "filesystem/posix_platform.hpp"
+#include "platform/posix_platform.hpp"
 
 #include <dlfcn.h>
 #include <fcntl.h>

@@ -3,9 +3,10 @@
 
 #include "common/ascii.hpp"
 #include "filesystem/install_root.hpp"
-#include "i18n/lcmgmt/lcdata_parser.hpp"
 #include "i18n/lcmgmt/locale_env_apply.hpp"
 #include "i18n/lcmgmt/manager_context.hpp"
+#include "i18n/lcmgmt/startup/lcdata_parser.hpp"
+#include "i18n/lcmgmt/startup/startup_sequence.hpp"
 #include "i18n/lcmgmt/system_setting_reader.hpp"
 
 #include <unicode/locid.h>
@@ -40,7 +41,9 @@ void read_override_variables(locale_env_snapshot& setting) {
         detail::to_ascii_lower(override_value(setting, "OVLOCALE_USE_UTF8_AS_DEFAULT")) == "true";
     std::string const control =
         detail::to_ascii_lower(override_value(setting, "OVLOCALE_L10N_CONTROL"));
-    setting.l10n_control = control == "on" ? 1 : control == "off" ? 2 : 0;
+    setting.l10n_control = control == "on"    ? l10n_on
+                           : control == "off" ? l10n_off
+                                              : l10n_unspecified;
 }
 
 // Bytes throughout: nothing may be decoded before the process encoding is decided.
@@ -91,7 +94,7 @@ void load_locale_database(manager_context& context) {
     } catch (LcRscExceptionBase const& failure) {
         if (char const* warning = database_failure_warning(failure.getCode())) {
             context.warnings.push_back(warning);
-            context.status = 1;
+            context.status = status_database_failed;
             context.status_message = failure.getMessage();
         }
     }
@@ -108,13 +111,13 @@ void read_system_setting(manager_context& context) {
 
 // The user locale is the system one, except that the library's own numbers never depend on it.
 void make_user_locale_global(manager_context& context) {
-    if (context.setting.l10n_control == 1) {
+    if (context.setting.l10n_control == l10n_on) {
         context.global_locale_locked = true;
     }
     context.user_locale = std::make_unique<OvLocaleImpl>(&context.database, *context.system_locale);
     context.user_locale->set_category("en_US_POSIX", "", OvLocale::numeric);
     context.global_locale.store(context.user_locale.get());
-    if (context.setting.l10n_control == 2) {
+    if (context.setting.l10n_control == l10n_off) {
         switch_to_english_messages(context);
         context.l10n_resource_enabled = false;
     }

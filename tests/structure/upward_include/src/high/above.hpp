@@ -1,0 +1,1 @@
+#include "low/below_too.hpp"
