@@ -6,8 +6,10 @@
 #include <fl/i18n/lcctype/classify.hpp>
 #include <fl/i18n/lcctype/code_point.hpp>
 #include <fl/i18n/lcctype/ctype_exception.hpp>
+#include <fl/i18n/lcctype/pattern_match.hpp>
 #include <fl/i18n/lcctype/posix_class.hpp>
 #include <fl/i18n/lcctype/posix_tag.hpp>
+#include <fl/i18n/lcctype/regex_exception.hpp>
 #include <fl/i18n/lcctype/scan.hpp>
 #include <fl/i18n/lcctype/string_compare.hpp>
 #include <fl/i18n/lcctype/string_transform.hpp>
