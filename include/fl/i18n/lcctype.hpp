@@ -13,5 +13,6 @@
 #include <fl/i18n/lcctype/scan.hpp>
 #include <fl/i18n/lcctype/string_compare.hpp>
 #include <fl/i18n/lcctype/string_transform.hpp>
+#include <fl/i18n/lcctype/trim.hpp>
 
 #endif
