@@ -22,12 +22,9 @@ namespace {
 using columns = std::array<ustring, 5>;
 
 void append(ustring& out, unsigned long cp) {
-    if (cp > 0xFFFF) {
-        out += static_cast<char16_t>(0xD7C0 + (cp >> 10));
-        out += static_cast<char16_t>(0xDC00 + (cp & 0x3FF));
-    } else {
-        out += static_cast<char16_t>(cp);
-    }
+    out += cp > 0xFFFF ? ustring{static_cast<char16_t>(0xD7C0 + (cp >> 10)),
+                                 static_cast<char16_t>(0xDC00 + (cp & 0x3FF))}
+                       : ustring(1, static_cast<char16_t>(cp));
 }
 
 ustring from_hex(std::string const& field) {

@@ -19,7 +19,6 @@ struct match_case {
 
 match_case const match_cases[] = {
     {"the whole text, not a part", u"b", mode::default_mode, u"abc", false},
-    {"wildcards", u".*ab.*c", mode::default_mode, u"xxabyyc", true},
     {"composed pattern, decomposed text", u"caf\u00E9", mode::normalized_compose_mode,
      u"cafe\u0301", true},
     {"decomposed pattern, composed text", u"cafe\u0301", mode::normalized_decompose_mode,
@@ -28,7 +27,6 @@ match_case const match_cases[] = {
     {"the pattern's own text is decomposed", u"[\u00E9]", mode::normalized_decompose_mode, u"e",
      true},
     {"case", u"stra\u00DFe", mode::insensitive_mode, u"STRA\u00DFE", true},
-    {"case is kept by default", u"abc", mode::default_mode, u"ABC", false},
     {"case and normal form", u"\u00C9t\u00E9",
      mode::insensitive_mode | mode::normalized_compose_mode, u"e\u0301T\u00C9", true},
     {"long text beyond the automatic buffer", u"(?:e\u0301){2000}", mode::normalized_decompose_mode,
@@ -50,8 +48,6 @@ TEST(PatternMatch, BothFormsAgreeOnEveryCase) {
 TEST(PatternMatch, BadPatternsThrow) {
     EXPECT_THROW(pattern_match(u"", mode::default_mode), RegexInvalidArgument);
     EXPECT_THROW(pattern_match(u"(ab", mode::default_mode), RegexFailedObjectCreation);
-    EXPECT_THROW(pattern_match(u"a{2,1}", mode::normalized_compose_mode),
-                 RegexFailedObjectCreation);
 }
 
 // Each repetition of an alternation keeps a backtracking state, and ICU's stack is bounded.
@@ -92,7 +88,6 @@ TEST(PatternStatus, StatusCodes) {
 
     pattern_status refused;
     EXPECT_EQ(refused.compile(u"(ab", mode::default_mode), pattern_status::creation_failed);
-
     pattern_status deep;
     ASSERT_EQ(deep.compile(u"(a|b)*c", mode::default_mode), pattern_status::ok);
     EXPECT_FALSE(deep.match(stack_exhausting_text(), result));
