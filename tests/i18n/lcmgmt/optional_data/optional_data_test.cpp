@@ -88,16 +88,4 @@ TEST(OptData, ValueOutsideTheEnumThrows) {
     }
 }
 
-TEST(LocaleInformation, ErrorEventsAreNumberedFromOne) {
-    // Nothing in the library records events yet; the report must still number what is there.
-    auto& events = fl::i18n::lcmgmt::manager_context::instance().setting.error_events;
-    events = {"first", "second"};
-    auto const info = fl::i18n::OvLcUtil::getLocaleInformation();
-    events.clear();
-    EXPECT_EQ(info.size(), 41u);
-    EXPECT_EQ(info.at("ErrorEvent1"), "first");
-    EXPECT_EQ(info.at("ErrorEvent2"), "second");
-    EXPECT_EQ(info.count("ErrorEvent0"), 0u);
-}
-
 }  // namespace

@@ -9,7 +9,8 @@
 //   EXPECT_ICU_LOCALE, EXPECT_INFO ("Key=value,..." of getLocaleInformation), EXPECT_ORIGINAL_ENV
 //   ("VAR=value,..." of get_original_user_locale_setting), EXPECT_JVM (the seven fields of the
 //   JVM context, ","-separated), EXPECT_INITIALIZE_THROWS (1: initialize() throws
-//   InvalidArgument), EXPECT_STATUS_MESSAGE.
+//   InvalidArgument), EXPECT_STATUS_MESSAGE, EXPECT_CREATED_ENCODING ("name=encoding,..." of
+//   createLocale).
 // PROBE_NO_START=1 skips start-up, and the probe then checks the default setting. PROBE_STEPS
 // ("change=NAME,disable,lock") then calls change_global_locale with createLocale(NAME),
 // disable_l10n_resource or lock_global_locale_setting, in order.
@@ -118,6 +119,11 @@ TEST_F(Startup, StatusAndDatabase) {
         } else {
             EXPECT_EQ(OvLocale::createLocale(alias.first)->getLocaleName(OvLocale::ctype),
                       alias.second);
+        }
+    }
+    if (auto const value = env("EXPECT_CREATED_ENCODING")) {
+        for (auto const& item : pairs(*value)) {
+            EXPECT_EQ(OvLocale::createLocale(item.first)->getEncoding(), item.second) << item.first;
         }
     }
     if (auto const value = env("EXPECT_L10N_ENABLED")) {
