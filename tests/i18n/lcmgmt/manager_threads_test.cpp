@@ -25,6 +25,7 @@ constexpr int thread_count = 8;
 void run_together(std::vector<std::function<void()>> const& bodies) {
     std::atomic<int> waiting{static_cast<int>(bodies.size())};
     std::vector<std::thread> threads;
+    threads.reserve(bodies.size());
     for (auto const& body : bodies) {
         threads.emplace_back([&waiting, &body] {
             waiting.fetch_sub(1);
@@ -53,9 +54,9 @@ observation observe() {
 
 TEST(ManagerThreads, FirstTouchCreatesOneManager) {
     std::vector<observation> seen(thread_count);
-    std::vector<std::function<void()>> bodies;
+    std::vector<std::function<void()>> bodies(thread_count);
     for (int i = 0; i < thread_count; ++i) {
-        bodies.push_back([&seen, i] { seen[i] = observe(); });
+        bodies[i] = [&seen, i] { seen[i] = observe(); };
     }
     run_together(bodies);
     for (observation const& o : seen) {
@@ -68,16 +69,16 @@ TEST(ManagerThreads, FirstTouchCreatesOneManager) {
 
 TEST(ManagerThreads, StartUpRunsOnceWhoeverAsks) {
     std::vector<observation> seen(thread_count);
-    std::vector<std::function<void()>> bodies;
+    std::vector<std::function<void()>> bodies(thread_count);
     for (int i = 0; i < thread_count; ++i) {
-        bodies.push_back([&seen, i] {
+        bodies[i] = [&seen, i] {
             if (i % 2 == 0) {
                 fl::i18n::initialize();
             } else {
                 fl::i18n::initLcMgmtSystem();
             }
             seen[i] = observe();
-        });
+        };
     }
     run_together(bodies);
     for (observation const& o : seen) {
@@ -93,9 +94,9 @@ TEST(ManagerThreads, OneSwitchToEnglishWhileOthersRead) {
     ASSERT_EQ(OvLocale::global().getLocaleName(OvLocale::messages), "de_DE");
     auto const english_request = OvLocale::createLocale("en_US");
     std::vector<std::set<std::string>> seen_messages(thread_count);
-    std::vector<std::function<void()>> bodies;
+    std::vector<std::function<void()>> bodies(thread_count);
     for (int i = 0; i < thread_count; ++i) {
-        bodies.push_back([&, i] {
+        bodies[i] = [&, i] {
             switch (i % 4) {
                 case 0:
                     fl::i18n::disable_l10n_resource();
@@ -110,7 +111,7 @@ TEST(ManagerThreads, OneSwitchToEnglishWhileOthersRead) {
                         fl::i18n::get_l10n_resource_status();
                     }
             }
-        });
+        };
     }
     run_together(bodies);
 
