@@ -51,7 +51,6 @@ TEST(FilesystemError, ErrnoMappingSurvivesExceptionPtr) {
         {ENAMETOOLONG, {"fl:filesystem:FileNameTooLarge", fs::fsys_file_name_too_large, path, 0}},
         {ENOTEMPTY, {"fl:filesystem:DirectoryNotEmpty", fs::fsys_directory_not_empty, path, 0}},
         {EMFILE, {"fl:filesystem:SystemError", fs::fsys_system_error, path, 24}},
-        {EPERM, {"fl:filesystem:SystemError", fs::fsys_system_error, path, 1}},
     };
     for (auto const& r : rows) {
         expect_failure(r.error, "/x/y", r.expected);
