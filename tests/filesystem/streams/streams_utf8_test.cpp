@@ -1,7 +1,6 @@
 #include <fl/filesystem/basic_ifstream.hpp>
 #include <fl/filesystem/stream_opening.hpp>
 #include <fl/filesystem/temporary_files.hpp>
-#include <fl/i18n/lcmgmt.hpp>
 
 #include "filesystem/temp_directory_fixture.hpp"
 
@@ -12,7 +11,7 @@
 #include <filesystem>
 #include <string>
 
-// Runs in a UTF-8 locale, started before any conversion, so that file names are UTF-8 bytes.
+// Part of utf8_file_names_test, whose start-up in a UTF-8 locale makes file names UTF-8 bytes.
 namespace {
 
 using fl::filesystem::upath;
@@ -24,14 +23,7 @@ std::string const name_bytes =
     "Gr\xC3\xBC\xC3\x9F"
     "e-\xE6\x97\xA5\xE6\x9C\xAC.txt";
 
-class StreamsUtf8 : public fstest::temp_directory_test {
-protected:
-    static void SetUpTestSuite() { fl::i18n::initialize(); }
-};
-
-TEST_F(StreamsUtf8, DefaultEncodingIsUtf8) {
-    ASSERT_EQ(fl::i18n::OvLocale::global().getEncoding(), "UTF-8");
-}
+class StreamsUtf8 : public fstest::temp_directory_test {};
 
 TEST_F(StreamsUtf8, InputStreamReadsANonAsciiName) {
     write_file(name_bytes, "erste Zeile\nzweite\n");

@@ -1,4 +1,4 @@
-"""Runs 'ovi18n locale --json' and checks values of its report.
+"""Runs 'ovi18n locale --json' and checks the shape consumers rely on, then values of the report.
 
 usage: check_locale_report.py TOOL [--raw-env NAME=HEXBYTES]... [CHECK]...
 A CHECK is PATH=VALUE (exact), PATH~=TEXT (the value, or a string in the list, contains TEXT),
@@ -8,6 +8,21 @@ import json
 import os
 import subprocess
 import sys
+
+SHAPE = {"status": int, "status_message": str, "warning_message": str,
+         "l10n_resource_enabled": bool, "environment.before": dict, "environment.after": dict,
+         "found.XpgEncoding": str, "found.ErrorEvents": list, "database.warnings": list,
+         "c_library.codeset": str, "messages_fallback": list, "icu.default_locale": str,
+         "icu.default_converter": str}
+SHAPE.update({"javavm." + f: str for f in ("language", "region", "resource_language",
+              "resource_region", "format_language", "format_region", "file_encoding")})
+for locale in ("classic", "system", "global"):
+    SHAPE.update({f"{locale}.{f}": str for f in ("encoding", "terminal_encoding",
+                  "terminal_input_encoding", "terminal_output_encoding", "jvm_encoding",
+                  "paper_size", "unit_system")})
+    SHAPE.update({f"{locale}.categories.{c}.{f}": str
+                  for c in ("ctype", "collate", "time", "numeric", "monetary", "messages")
+                  for f in ("name", "modifier", "language", "region")})
 
 
 def lookup(document, path):
@@ -35,6 +50,12 @@ def main(argv):
     report = json.loads(run.stdout.decode("utf-8"))  # strict: invalid UTF-8 fails here
 
     failures = []
+    for path, kind in SHAPE.items():
+        try:
+            if type(lookup(report, path)) is not kind:
+                failures.append(f"{path}: not a {kind.__name__}")
+        except (KeyError, IndexError, TypeError):
+            failures.append(f"{path}: missing")
     for check in checks:
         contains = "~=" in check
         path, expected = check.split("~=" if contains else "=", 1)

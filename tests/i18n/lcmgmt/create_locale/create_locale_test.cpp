@@ -30,7 +30,6 @@ TEST(CreateLocale, ResolvesNameModifierAndEncoding) {
         {"de_DE.iso885915@euro", "de_DE@euro", "de_DE@euro", "ISO-8859-15"},
         {"de_DE@euro@x", "de_DE@euro@x", "de_DE@euro@x", "ISO-8859-15"},
         {"ja_JP.eucJP", "ja_JP", "ja_JP", "EUC-JP"},
-        {"ja_JP.SJIS", "ja_JP", "ja_JP", "Shift_JIS"},
         {"sr-Latn_RS.UTF-8", "sr-Latn_RS", "sr-Latn_RS", "UTF-8"},
         {"en.UTF-8", "en_US", "en_US", "UTF-8"},
     };

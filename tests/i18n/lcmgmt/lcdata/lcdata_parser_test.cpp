@@ -4,6 +4,7 @@
 #include "filesystem/streams/scratch_directory.hpp"
 #include "i18n/lcmgmt/event_handler.hpp"
 #include "i18n/lcmgmt/startup/lcdata_parser.hpp"
+#include "support/cloned_exception.hpp"
 
 #include <gtest/gtest.h>
 
@@ -13,9 +14,7 @@
 
 namespace {
 
-using fl::i18n::LcRscFileReadFailure;
 using fl::i18n::LcRscInvalidXmlDoc;
-using fl::i18n::LcRscOpenFileFailure;
 using fl::i18n::lcmgmt::parseLcData;
 using strings = std::vector<std::string>;
 
@@ -187,27 +186,29 @@ TEST(LcdataFile, ReadsInPiecesAndSeesTheEnd) {
     }
 }
 
+// A directory opens but can't be read. The failures come as the library throws, cloneable.
 TEST(LcdataFile, FailuresNameTheFileInPrintableForm) {
     scratch_directory const dir("lcdata_failures");
-    parsed_document doc;
-    std::string const missing = dir.bytes("caf\xC3\xA9\n.xml");
-    std::string const printable = dir.bytes("cafC3A9A.xml");
-    try {
-        parseLcData(doc.database, missing, doc.warnings);
-        FAIL() << "a missing file must fail";
-    } catch (LcRscOpenFileFailure const& e) {
-        EXPECT_EQ("fl:i18n:LcRscOpenFileFailure", e.getId());
-        EXPECT_EQ(2, e.getCode());
-        EXPECT_EQ("Failed to open file " + printable + ".", e.what());
-    }
-    // A directory opens but can't be read.
-    try {
-        parseLcData(doc.database, dir.bytes(), doc.warnings);
-        FAIL() << "a directory must fail";
-    } catch (LcRscFileReadFailure const& e) {
-        EXPECT_EQ("fl:i18n:LcRscFileReadFailure", e.getId());
-        EXPECT_EQ(3, e.getCode());
-        EXPECT_EQ("Failed to read file " + dir.bytes() + ".", e.what());
+    struct {
+        std::string file;
+        char const* id;
+        int code;
+        std::string what;
+    } const cases[] = {
+        {dir.bytes("caf\xC3\xA9\n.xml"), "fl:i18n:LcRscOpenFileFailure", 2,
+         "Failed to open file " + dir.bytes("cafC3A9A.xml") + "."},
+        {dir.bytes(), "fl:i18n:LcRscFileReadFailure", 3,
+         "Failed to read file " + dir.bytes() + "."},
+    };
+    for (auto const& c : cases) {
+        parsed_document doc;
+        expect_cloned_as_thrown<fl::i18n::LcRscExceptionBase>(
+            [&] { parseLcData(doc.database, c.file, doc.warnings); },
+            [&](fl::i18n::LcRscExceptionBase const& e) {
+                EXPECT_EQ(c.id, e.getId());
+                EXPECT_EQ(c.code, e.getCode());
+                EXPECT_EQ(c.what, e.what());
+            });
     }
 }
 

@@ -37,31 +37,21 @@ TEST_P(LocaleLookup, CanonicalNameAndDefaultEncoding) {
     EXPECT_EQ(text(database().default_encoding_of(c.name)), c.encoding) << c.name;
 }
 
+// The tables themselves are pinned elsewhere; these rows are the search's own paths.
 INSTANTIATE_TEST_SUITE_P(
     Names, LocaleLookup,
     testing::Values(
         // aliases, whatever their case and separator
         locale_case{"C", "en_US_POSIX", "US-ASCII"},
-
-        locale_case{"posix", "en_US_POSIX", "US-ASCII"},
-        locale_case{"en_US_POSIX", "en_US_POSIX", "US-ASCII"},
-        locale_case{"en", "en_US", "ISO-8859-1"}, locale_case{"iw", "he_IL", "ISO-8859-8"},
+        locale_case{"posix", "en_US_POSIX", "US-ASCII"}, locale_case{"en", "en_US", "ISO-8859-1"},
         locale_case{"iw_IL", "he_IL", "ISO-8859-8"}, locale_case{"ZH_hant", "zh_TW", "Big5"},
         locale_case{"zh-Hans-CN", "zh_CN", "GB2312"},
-        locale_case{"hy_AM_REVISED", "hy_AM", "UTF-8"}, locale_case{"en_UK", "en_GB", "ISO-8859-1"},
-        locale_case{"sr-Latn", "sr-Latn_BA", "ISO-8859-2"}, locale_case{"qu_PE", "quz_PE", "UTF-8"},
+        locale_case{"hy_AM_REVISED", "hy_AM", "UTF-8"}, locale_case{"qu_PE", "quz_PE", "UTF-8"},
         // searches of the language table
-        locale_case{"de_DE", "de_DE", "ISO-8859-15"}, locale_case{"DE-at", "de_AT", "ISO-8859-15"},
-        locale_case{"sr_RS", "sr_RS", "ISO-8859-5"},
-
+        locale_case{"DE-at", "de_AT", "ISO-8859-15"}, locale_case{"ja", "ja_JP", "Shift_JIS"},
         locale_case{"sr_Latn-RS", "sr-Latn_RS", "ISO-8859-2"},
-        locale_case{"ja", "ja_JP", "Shift_JIS"}, locale_case{"ko_KR", "ko_KR", "EUC-KR"},
-        locale_case{"zh_HK", "zh_HK", "Big5-HKSCS"}, locale_case{"zh_MO", "zh_MO", "Big5"},
-        locale_case{"zh_SG", "zh_SG", "GB2312"}, locale_case{"zh-Hans_HK", "zh-Hans_HK", "GB2312"},
-        locale_case{"aa_DJ", "aa_DJ", "ISO-8859-1"}, locale_case{"aa_ER", "aa_ER", "UTF-8"},
-        locale_case{"az_AZ", "az_AZ", "UTF-8"},
+        locale_case{"zh-Hans_HK", "zh-Hans_HK", "GB2312"},
         locale_case{"az-Cyrl_AZ", "az-Cyrl_AZ", "ISO-8859-5"},
-        locale_case{"fr_CA", "fr_CA", "ISO-8859-15"}, locale_case{"ru_UA", "ru_UA", "KOI8-U"},
         // unknown names
         locale_case{"xx_YY", "", "UTF-8"}, locale_case{"xx-Yyyy_ZZ", "", "UTF-8"},
         locale_case{"de_ZZ", "", "UTF-8"}, locale_case{"english", "", "UTF-8"},
@@ -114,16 +104,10 @@ TEST_P(EncodingLookup, NameAndJvmName) {
 
 INSTANTIATE_TEST_SUITE_P(Names, EncodingLookup,
                          testing::Values(encoding_case{"WINDOWS-1252", "windows-1252", "Cp1252"},
-
                                          encoding_case{"1252", "windows-1252", "Cp1252"},
-
                                          encoding_case{"utf8", "UTF-8", "UTF-8"},
-                                         encoding_case{"sjis", "Shift_JIS", "MS932"},
                                          encoding_case{"Windows31J", "Shift_JIS", "MS932"},
-                                         encoding_case{"euc-cn", "GB2312", "GB2312"},
-                                         encoding_case{"TIS620", "windows-874", "MS874"},
                                          encoding_case{"ANSI_X3.4-1968", "US-ASCII", "US-ASCII"},
-                                         encoding_case{"iso8859-15", "ISO-8859-15", "ISO-8859-15"},
                                          encoding_case{"nosuch", "<null>", "<null>"},
                                          encoding_case{"", "<null>", "<null>"}));
 

@@ -9,9 +9,11 @@
 //   EXPECT_ICU_LOCALE, EXPECT_INFO ("Key=value,..." of getLocaleInformation), EXPECT_ORIGINAL_ENV
 //   ("VAR=value,..." of get_original_user_locale_setting), EXPECT_JVM (the seven fields of the
 //   JVM context, ","-separated), EXPECT_INITIALIZE_THROWS (1: initialize() throws
-//   InvalidArgument).
-// PROBE_NO_START=1 skips start-up; PROBE_CHANGE_TO_ENGLISH=1 then calls change_global_locale with
-// an en_US locale, and PROBE_DISABLE_L10N=1 disables translated resources.
+//   InvalidArgument), EXPECT_STATUS_MESSAGE, EXPECT_CREATED_ENCODING ("name=encoding,..." of
+//   createLocale).
+// PROBE_NO_START=1 skips start-up, and the probe then checks the default setting. PROBE_STEPS
+// ("change=NAME,disable,lock") then calls change_global_locale with createLocale(NAME),
+// disable_l10n_resource or lock_global_locale_setting, in order.
 #include <fl/filesystem.hpp>
 #include <fl/i18n.hpp>
 
@@ -25,6 +27,7 @@
 #include <set>
 #include <sstream>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -70,11 +73,20 @@ protected:
         } else if (started()) {
             fl::i18n::initialize();
         }
-        if (env("PROBE_CHANGE_TO_ENGLISH")) {
-            fl::i18n::change_global_locale(*OvLocale::createLocale("en_US"));
-        }
-        if (env("PROBE_DISABLE_L10N")) {
-            fl::i18n::disable_l10n_resource();
+        for (std::string const& step : split(env("PROBE_STEPS").value_or(""))) {
+            // Once resources are off, nothing moves the global locale again.
+            bool const off = !fl::i18n::get_l10n_resource_status();
+            OvLocale const* const before = &OvLocale::global();
+            if (step == "disable") {
+                fl::i18n::disable_l10n_resource();
+            } else if (step == "lock") {
+                fl::i18n::lock_global_locale_setting();
+            } else {
+                fl::i18n::change_global_locale(*OvLocale::createLocale(step.substr(7)));
+            }
+            if (off) {
+                EXPECT_EQ(&OvLocale::global(), before) << step;
+            }
         }
     }
 };
@@ -82,6 +94,9 @@ protected:
 TEST_F(Startup, StatusAndDatabase) {
     if (auto const value = env("EXPECT_STATUS")) {
         EXPECT_EQ(OvLcUtil::getLcStatus(), std::stoi(*value));
+    }
+    if (auto const value = env("EXPECT_STATUS_MESSAGE")) {
+        EXPECT_EQ(OvLcUtil::getInitStatusMsg(), *value);
     }
     if (auto const value = env("EXPECT_WARNING")) {
         EXPECT_NE(OvLcUtil::getInitWarningMsg().find(*value), std::string::npos)
@@ -104,6 +119,11 @@ TEST_F(Startup, StatusAndDatabase) {
         } else {
             EXPECT_EQ(OvLocale::createLocale(alias.first)->getLocaleName(OvLocale::ctype),
                       alias.second);
+        }
+    }
+    if (auto const value = env("EXPECT_CREATED_ENCODING")) {
+        for (auto const& item : pairs(*value)) {
+            EXPECT_EQ(OvLocale::createLocale(item.first)->getEncoding(), item.second) << item.first;
         }
     }
     if (auto const value = env("EXPECT_L10N_ENABLED")) {
@@ -175,21 +195,13 @@ TEST_F(Startup, StandardLibraryLocaleIsInstalled) {
 }
 
 TEST_F(Startup, ReportsTheSettingAsFound) {
+    // Three per-category families of twelve plus the three whole-process keys; scenarios name the
+    // keys that tell which value start-up took.
     auto const info = OvLcUtil::getLocaleInformation();
-    std::vector<std::string> keys = {"XpgEnvLcAll", "XpgEnvLang", "XpgEncoding"};
-    for (char const* prefix : {"InitialXpgLc", "XpgLc", "XpgEnvLc"}) {
-        for (char const* word :
-             {"Ctype", "Collate", "Time", "Numeric", "Monetary", "Messages", "Paper", "Name",
-              "Address", "Telephone", "Measurement", "Identification"}) {
-            keys.push_back(std::string(prefix) + word);
-        }
-    }
-    EXPECT_EQ(info.size(), keys.size());
-    for (std::string const& key : keys) {
-        auto const found = info.find(key);
-        ASSERT_NE(found, info.end()) << key;
+    EXPECT_EQ(info.size(), 39u);
+    for (auto const& item : info) {
         if (env("PROBE_NO_START")) {
-            EXPECT_EQ(found->second, "") << key << " before start-up";
+            EXPECT_EQ(item.second, "") << item.first << " before start-up";
         }
     }
     if (auto const value = env("EXPECT_INFO")) {
@@ -217,6 +229,50 @@ TEST_F(Startup, ReportsTheSettingAsFound) {
             (std::vector<std::string>{c.language, c.region, c.resource_language, c.resource_region,
                                       c.format_language, c.format_region, c.file_encoding}),
             fields);
+    }
+}
+
+// A second start, whoever asks, changes nothing: start-up would remove LC_ALL again.
+TEST_F(Startup, SecondStartChangesNothing) {
+    if (!started()) {
+        GTEST_SKIP() << "no first start-up";
+    }
+    auto const status = std::make_tuple(OvLcUtil::getLcStatus(), OvLcUtil::getInitStatusMsg(),
+                                        OvLcUtil::getInitWarningMsg(), &OvLocale::global(),
+                                        &OvLocale::system(), fl::i18n::get_startup_warnings());
+    ASSERT_EQ(setenv("LC_ALL", "C", 1), 0);
+    fl::i18n::initialize();
+    fl::i18n::initLcMgmtSystem();
+    EXPECT_STREQ(std::getenv("LC_ALL"), "C");
+    EXPECT_TRUE(status == std::make_tuple(OvLcUtil::getLcStatus(), OvLcUtil::getInitStatusMsg(),
+                                          OvLcUtil::getInitWarningMsg(), &OvLocale::global(),
+                                          &OvLocale::system(), fl::i18n::get_startup_warnings()));
+    unsetenv("LC_ALL");
+}
+
+// Runs last, after every reader above: none of them may start the manager. The system locale is
+// an object of its own, which start-up will change; equality ignores its terminal encoding.
+TEST_F(Startup, DefaultSettingWithoutStartUp) {
+    if (!env("PROBE_NO_START")) {
+        GTEST_SKIP() << "started";
+    }
+    EXPECT_EQ(OvLcUtil::getLcStatus(), 2);
+    EXPECT_EQ(OvLcUtil::getInitWarningMsg(), "");
+    EXPECT_TRUE(fl::i18n::get_l10n_resource_status());
+    EXPECT_EQ(&OvLocale::global(), &OvLocale::classic());
+    EXPECT_NE(&OvLocale::system(), &OvLocale::classic());
+    EXPECT_TRUE(OvLocale::system() == OvLocale::classic());
+    for (OvLocale const* locale : {&OvLocale::classic(), &OvLocale::system()}) {
+        for (int c = OvLocale::ctype; c <= OvLocale::messages; ++c) {
+            auto const category = static_cast<OvLocale::LcCategory>(c);
+            EXPECT_EQ(locale->getLocaleName(category) + locale->getModifier(category) + " " +
+                          locale->getLanguage(category) + "_" + locale->getRegion(category),
+                      category == OvLocale::messages ? "en_US en_US" : "en_US_POSIX en_US");
+        }
+        EXPECT_EQ(locale->getEncoding(), "US-ASCII");
+        EXPECT_EQ(
+            boost::get<std::string>(locale->getOptData(fl::i18n::OvLcOptDataCtx::termencoding)),
+            "US-ASCII");
     }
 }
 
