@@ -7,8 +7,8 @@
 # build-fuzz/findings/<name>/.
 # A unit running longer than OVI18N_FUZZ_TIMEOUT seconds (default 300: the clock is the wall's,
 # and a niced run on a busy machine waits long for the CPU) is a finding.
-# OVI18N_FUZZ_UPDATE_CORPUS=1 writes the minimised corpus (old and new inputs) back to
-# fuzz/corpus/<name>/ afterwards.
+# OVI18N_FUZZ_UPDATE_CORPUS=1 then merges (-merge=1) the new inputs that add coverage into
+# fuzz/corpus/<name>/.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/lib/build_tree.sh
@@ -51,12 +51,9 @@ run_target() {
         -artifact_prefix="$findings/" "$work" "fuzz/corpus/$name" >"$log" 2>&1 || status=$?
     echo "$status" >"$out/logs/$name.status"
     if [ "$status" -eq 0 ] && [ "${OVI18N_FUZZ_UPDATE_CORPUS:-0}" = 1 ]; then
-        local merged=$out/corpus-merged/$name
-        rm -rf "$merged"
-        mkdir -p "$merged"
-        "$exe" -merge=1 "$merged" "fuzz/corpus/$name" "$work" >>"$log" 2>&1
-        rm -rf "fuzz/corpus/$name"
-        mv "$merged" "fuzz/corpus/$name"
+        # Adds only the new inputs that reach something the committed ones don't; the committed
+        # ones keep their names.
+        "$exe" -merge=1 "fuzz/corpus/$name" "$work" >>"$log" 2>&1
     fi
 }
 
