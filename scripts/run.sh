@@ -2,9 +2,11 @@
 # Builds the library and runs the ovi18n tool on the sample installation in the build tree.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+. scripts/lib/build_tree.sh
 
 scripts/install-deps.sh
-generator=(); command -v ninja >/dev/null && generator=(-G Ninja)
-cmake -S . -B build "${generator[@]}" -DOVI18N_BUILD_TESTS=OFF -DOVI18N_BUILD_BENCHMARKS=OFF >/dev/null
-cmake --build build --target ovi18n_tool -j"$(nproc)"
+# Shares build/ with test.sh, so it leaves the test and benchmark switches alone and states only
+# what the tool needs: a plain build with the tool in it.
+configure_tree build -DOVI18N_BUILD_TOOLS=ON -DOVI18N_SANITIZE= -DOVI18N_FUZZ=OFF
+cmake --build build --target ovi18n_tool -j"$jobs"
 exec build/bin/x64linux/ovi18n locale "$@"

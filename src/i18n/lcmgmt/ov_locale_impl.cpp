@@ -6,6 +6,9 @@
 #include "common/throw_exception.hpp"
 #include "i18n/lcmgmt/optional_locale_data.hpp"
 
+#include <cstring>
+#include <type_traits>
+
 namespace fl {
 namespace i18n {
 
@@ -82,7 +85,12 @@ std::string OvLocaleImpl::getEncoding() const {
 }
 
 OvLcOptDataCtx::value_type OvLocaleImpl::getOptData(OvLcOptDataCtx::LcOptDataType type) const {
-    switch (type) {
+    // Callers in other modules pass plain integers, and a value outside the enumeration's range
+    // may not even be read as the enumeration: take its bytes as the integer they hold.
+    std::underlying_type_t<OvLcOptDataCtx::LcOptDataType> value;
+    static_assert(sizeof value == sizeof type, "the enumeration is its underlying integer");
+    std::memcpy(&value, &type, sizeof value);
+    switch (value) {
         case OvLcOptDataCtx::jvmencoding:
             return lcmgmt::jvm_encoding_name(database_, encoding_);
         case OvLcOptDataCtx::terminputencoding:
