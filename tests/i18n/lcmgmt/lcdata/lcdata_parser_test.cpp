@@ -97,8 +97,6 @@ TEST(LcdataGrammar, ReportsWhereTheParseStopped) {
             ADD_FAILURE() << c.text;
         } catch (LcRscInvalidXmlDoc const& e) {
             EXPECT_STREQ(c.what, e.what());
-            EXPECT_EQ("fl:i18n:LcRscInvalidXmlDoc", e.getId());
-            EXPECT_EQ(5, e.getCode());
         }
     }
 }
@@ -189,26 +187,15 @@ TEST(LcdataFile, ReadsInPiecesAndSeesTheEnd) {
 // A directory opens but can't be read. The failures come as the library throws, cloneable.
 TEST(LcdataFile, FailuresNameTheFileInPrintableForm) {
     scratch_directory const dir("lcdata_failures");
-    struct {
-        std::string file;
-        char const* id;
-        int code;
-        std::string what;
-    } const cases[] = {
-        {dir.bytes("caf\xC3\xA9\n.xml"), "fl:i18n:LcRscOpenFileFailure", 2,
-         "Failed to open file " + dir.bytes("cafC3A9A.xml") + "."},
-        {dir.bytes(), "fl:i18n:LcRscFileReadFailure", 3,
-         "Failed to read file " + dir.bytes() + "."},
+    std::pair<std::string, std::string> const cases[] = {
+        {dir.bytes("caf\xC3\xA9\n.xml"), "Failed to open file " + dir.bytes("cafC3A9A.xml") + "."},
+        {dir.bytes(), "Failed to read file " + dir.bytes() + "."},
     };
-    for (auto const& c : cases) {
+    for (auto const& [file, what] : cases) {
         parsed_document doc;
         expect_cloned_as_thrown<fl::i18n::LcRscExceptionBase>(
-            [&] { parseLcData(doc.database, c.file, doc.warnings); },
-            [&](fl::i18n::LcRscExceptionBase const& e) {
-                EXPECT_EQ(c.id, e.getId());
-                EXPECT_EQ(c.code, e.getCode());
-                EXPECT_EQ(c.what, e.what());
-            });
+            [&] { parseLcData(doc.database, file, doc.warnings); },
+            [&](fl::i18n::LcRscExceptionBase const& e) { EXPECT_EQ(what, e.what()); });
     }
 }
 
