@@ -93,6 +93,7 @@ TEST(Timezone, SpecialValuesGiveOrdinaryTimes) {
 
 TEST(Timezone, SeparateObjectsConvertInParallel) {
     std::vector<std::thread> threads;
+    threads.reserve(4);
     std::vector<int> failures(4, 0);
     for (int i = 0; i < 4; ++i) {
         threads.emplace_back([i, &failures] {
