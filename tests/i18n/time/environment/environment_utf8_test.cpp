@@ -26,6 +26,10 @@ TEST_F(EnvironmentUtf8, DefaultEncodingIsUtf8) {
 }
 
 TEST_F(EnvironmentUtf8, ValuesTravelAsUtf8Bytes) {
+    std::string euros;
+    while (euros.size() < 3000) {
+        euros += "\xE2\x82\xAC";
+    }
     struct Case {
         ustring text;
         std::string bytes;
@@ -37,13 +41,7 @@ TEST_F(EnvironmentUtf8, ValuesTravelAsUtf8Bytes) {
         {u"\u65E5\u672C\u8A9E", "\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E"},
         {u"\U0001D11E clef", "\xF0\x9D\x84\x9E clef"},
         // 1000 three-byte characters: the bytes outgrow the first buffer.
-        {ustring(1000, u'\u20AC'),
-         [] {
-             std::string s;
-             for (int i = 0; i < 1000; ++i)
-                 s += "\xE2\x82\xAC";
-             return s;
-         }()},
+        {ustring(1000, u'\u20AC'), euros},
     };
     for (Case const& c : cases) {
         ASSERT_EQ(fl::i18n::setenv(variable, c.text, 1, false), 0);

@@ -1,8 +1,11 @@
-"""Runs 'ovi18n locale --json' and checks the shape consumers rely on, then values of the report.
+"""Runs 'TOOL ARG... --json' and compares values of its document; for 'locale', first the shape
+consumers rely on.
 
-usage: check_locale_report.py TOOL [--raw-env NAME=HEXBYTES]... [CHECK]...
-A CHECK is PATH=VALUE (exact), PATH~=TEXT (the value, or a string in the list, contains TEXT),
-or PATH=null. PATH is dotted: global.categories.messages.name, messages_fallback.0.
+usage: check_json.py TOOL ARG... -- [--raw-env NAME=HEXBYTES]... [CHECK]...
+A CHECK is PATH=VALUE (exact, as JSON or as a plain string), PATH~=TEXT (the value, or a string in
+the list, contains TEXT), or PATH=null. PATH is dotted: global.categories.messages.name,
+messages_fallback.0; a part KEY:VALUE picks the list element whose KEY is VALUE, as in
+encodings.name:UTF-8.
 """
 import json
 import os
@@ -28,12 +31,17 @@ for locale in ("classic", "system", "global"):
 def lookup(document, path):
     value = document
     for part in path.split("."):
-        value = value[int(part)] if isinstance(value, list) else value[part]
+        if isinstance(value, list) and ":" in part:
+            key, wanted = part.split(":", 1)
+            value = next(item for item in value if item.get(key) == wanted)
+        else:
+            value = value[int(part)] if isinstance(value, list) else value[part]
     return value
 
 
 def main(argv):
-    tool, args = argv[1], argv[2:]
+    split = argv.index("--")
+    tool, command, args = argv[1], argv[2:split], argv[split + 1:]
     env = os.environb.copy()
     checks = []
     while args:
@@ -44,13 +52,13 @@ def main(argv):
         else:
             checks.append(arg)
 
-    run = subprocess.run([tool, "locale", "--json"], env=env, capture_output=True)
+    run = subprocess.run([tool] + command + ["--json"], env=env, capture_output=True)
     if run.returncode != 0:
         sys.exit(f"exit {run.returncode}: {run.stderr.decode(errors='replace')}")
     report = json.loads(run.stdout.decode("utf-8"))  # strict: invalid UTF-8 fails here
 
     failures = []
-    for path, kind in SHAPE.items():
+    for path, kind in SHAPE.items() if command == ["locale"] else ():
         try:
             if type(lookup(report, path)) is not kind:
                 failures.append(f"{path}: not a {kind.__name__}")
