@@ -13,6 +13,7 @@
 #include <fl/filesystem/fsys_exception.hpp>
 #include <fl/filesystem/modifying_operations.hpp>
 #include <fl/filesystem/path_algebra.hpp>
+#include <fl/filesystem/path_comparison.hpp>
 #include <fl/filesystem/path_resolution.hpp>
 #include <fl/filesystem/path_traits.hpp>
 #include <fl/filesystem/pathname_element_context.hpp>
