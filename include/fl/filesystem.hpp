@@ -7,6 +7,7 @@
 #include <fl/filesystem/basic_ifstream.hpp>
 #include <fl/filesystem/basic_path.hpp>
 #include <fl/filesystem/boost_path_bridge.hpp>
+#include <fl/filesystem/directory_iterator.hpp>
 #include <fl/filesystem/file_status.hpp>
 #include <fl/filesystem/filename_converter.hpp>
 #include <fl/filesystem/filesystem_error.hpp>
@@ -21,5 +22,7 @@
 #include <fl/filesystem/stream_opening.hpp>
 #include <fl/filesystem/temporary_files.hpp>
 #include <fl/filesystem/upath_constant.hpp>
+#include <fl/filesystem/upath_directory_entry.hpp>
+#include <fl/filesystem/wildcard_pattern.hpp>
 
 #endif
