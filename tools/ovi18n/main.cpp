@@ -14,6 +14,7 @@ void print_help(std::ostream& out) {
            "\n"
            "commands:\n"
            "  locale [--json]   start the library and explain the locale it decided on\n"
+           "  ls PATH [PATTERN] [--json]  list a directory; PATTERN's only wildcard is *\n"
            "\n"
            "options:\n"
            "  --version         print the library's version, path and build date\n"
@@ -54,6 +55,9 @@ int run(std::vector<std::string> const& args) {
             }
         }
         return ovi18n_tool::run_locale(std::cout, json);
+    }
+    if (command == "ls") {
+        return ovi18n_tool::run_ls(std::vector<std::string>(args.begin() + 1, args.end()));
     }
     return usage_error("unknown command '" + command + "'");
 }
