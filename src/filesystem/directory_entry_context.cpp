@@ -77,7 +77,7 @@ bool is_acceptable_filename(ustring const& filename) {
 directory_entry_with_wc_support_context::directory_entry_with_wc_support_context(
     ustring const& directory, ustring const& filename, ustring const& pattern,
     bool tolerate_bad_pattern, struct dirent* entry)
-    : directory_entry_context(directory, filename, entry) {
+    : directory_entry_context(directory, filename, entry), prefilter(filename, pattern) {
     if (pattern.empty() || !is_acceptable_filename(filename)) {
         fl::detail::throw_exception(InvalidArgument());
     }
@@ -96,7 +96,7 @@ bool directory_entry_with_wc_support_context::read_next() {
             return false;
         }
         std::int32_t status = 0;
-        if (matcher.match(name, status)) {
+        if (prefilter.may_match(name) && matcher.match(name, status)) {
             return true;
         }
     }

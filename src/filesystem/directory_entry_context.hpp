@@ -4,6 +4,7 @@
 #include <fl/i18n/lcctype/pattern_match.hpp>
 #include <fl/i18n/ustring.hpp>
 
+#include "filesystem/wildcard_prefilter.hpp"
 #include "platform/posix_platform.hpp"
 
 #include <dirent.h>
@@ -72,6 +73,7 @@ protected:
 
 private:
     fl::i18n::pattern_status matcher;
+    wildcard_prefilter prefilter;
 };
 
 }  // namespace detail

@@ -1,6 +1,8 @@
 #include <fl/filesystem.hpp>
+#include <fl/i18n/lcctype/pattern_match.hpp>
 #include <fl/i18n/lcmgmt.hpp>
 
+#include "filesystem/wildcard_prefilter.hpp"
 #include "i18n/lcmgmt/manager_context.hpp"
 
 #include <gtest/gtest.h>
@@ -9,6 +11,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <random>
 #include <set>
 #include <string>
 
@@ -166,6 +169,45 @@ TEST(WildcardPattern, GeneratedExpressions) {
                       r.wildcards, fs::detail::velmor_pattern_string_generator()),
                   r.pattern);
     }
+}
+
+// The prefilter may only reject names that the regular expression rejects too.
+TEST(WildcardPattern, PrefilterNeverRejectsAMatch) {
+    ustring const alphabet = u"ab.*?\r\n\u00E9e\u0301A";
+    std::mt19937 random(7);
+    auto const text = [&](std::size_t longest) {
+        ustring t(random() % (longest + 1), u'a');
+        for (auto& unit : t) {
+            unit = alphabet[random() % alphabet.size()];
+        }
+        return t;
+    };
+    int matches = 0;
+    for (int p = 0; p < 300; ++p) {
+        ustring filename = text(5);
+        if (filename.empty()) {
+            continue;
+        }
+        ustring const pattern = fs::detail::generate_pattern_from_filename(
+            filename, fs::detail::velmor_pattern_string_generator());
+        fl::i18n::pattern_status icu;
+        ASSERT_EQ(icu.compile(pattern, 0), fl::i18n::pattern_status::ok);
+        fs::detail::wildcard_prefilter const prefilter(filename, pattern);
+        for (int n = 0; n < 200; ++n) {
+            // Half the names grow from the file name, so that matches are common.
+            ustring name = n % 2 ? text(8) : filename;
+            for (auto& unit : name) {
+                if (unit == u'*') {
+                    unit = alphabet[random() % alphabet.size()];
+                }
+            }
+            std::int32_t status = 0;
+            bool const matched = icu.match(name, status);
+            matches += matched;
+            ASSERT_TRUE(prefilter.may_match(name) || !matched);
+        }
+    }
+    EXPECT_GT(matches, 1000);
 }
 
 class raw_pattern : public fs::pattern_string_context {
