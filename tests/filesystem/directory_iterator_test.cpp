@@ -3,12 +3,10 @@
 #include <fl/i18n/lcmgmt.hpp>
 
 #include "filesystem/wildcard_prefilter.hpp"
-#include "i18n/lcmgmt/manager_context.hpp"
 
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <random>
@@ -30,11 +28,6 @@ class utf8_setting : public ::testing::Environment {
 public:
     void SetUp() override {
         fl::i18n::initialize();
-        if (fl::i18n::OvLocale::global().getEncoding() != "UTF-8") {
-            auto& context = fl::i18n::lcmgmt::manager_context::instance();
-            context.user_locale->set_encoding("UTF-8");
-            context.global_locale = context.user_locale.get();
-        }
         ASSERT_EQ(fl::i18n::OvLocale::global().getEncoding(), "UTF-8");
     }
 };
