@@ -153,19 +153,24 @@ int directory_stream::open(std::string const& path) {
 }
 
 int directory_stream::read(std::string& name, bool& at_end) {
+    int const error = read_into(entry_, at_end);
+    if (error == 0 && !at_end) {
+        name.assign(entry_.d_name);
+    }
+    return error;
+}
+
+int directory_stream::read_into(struct dirent& entry, bool& at_end) {
     dirent* result = nullptr;
     // readdir_r keeps the reading reentrant across threads that share nothing but the library.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-    int const error = ::readdir_r(handle_, &entry_, &result);
+    int const error = ::readdir_r(handle_, &entry, &result);
 #pragma GCC diagnostic pop
     if (error != 0) {
         return error;
     }
     at_end = result == nullptr;
-    if (!at_end) {
-        name.assign(entry_.d_name);
-    }
     return 0;
 }
 

@@ -50,6 +50,10 @@ public:
     int open(std::string const& path);
     // Sets at_end after the last entry; "." and ".." are delivered like any other entry.
     int read(std::string& name, bool& at_end);
+    // The same into a record the caller keeps, so its d_type and raw name bytes outlive the
+    // call; the stream's own buffer is left alone.
+    int read_into(struct dirent& entry, bool& at_end);
+    bool is_open() const noexcept { return handle_ != nullptr; }
     int close();
 
 private:

@@ -49,4 +49,32 @@ TEST_F(FilesystemThreads, ConcurrentOperationsAgree) {
     EXPECT_EQ(mismatches.load(), 0);
 }
 
+// Distinct iterators over one directory are independent; comparison has no shared state.
+TEST_F(FilesystemThreads, DistinctIteratorsAndComparisonsAgree) {
+    for (int i = 0; i < 20; ++i) {
+        write_file("f" + std::to_string(i) + (i % 2 ? ".xml" : ".txt"));
+    }
+    std::atomic<int> mismatches{0};
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 4; ++t) {
+        threads.emplace_back([&] {
+            for (int i = 0; i < 100; ++i) {
+                int count = 0;
+                for (fs::directory_iterator it(u(root_),
+                                               fs::wildcard_pattern_string_context(u"*.xml"));
+                     it != fs::directory_iterator(); ++it) {
+                    ++count;
+                }
+                if (count != 10 || fs::compare(u"/a", u"/A", 1) != 0) {
+                    ++mismatches;
+                }
+            }
+        });
+    }
+    for (auto& thread : threads) {
+        thread.join();
+    }
+    EXPECT_EQ(mismatches.load(), 0);
+}
+
 }  // namespace

@@ -13,6 +13,8 @@ int run_tz(std::vector<std::string> const& args, std::ostream& out);
 int run_encodings(std::vector<std::string> const& args, std::ostream& out);
 // Writes the converted text to standard output.
 int run_convert(std::vector<std::string> const& args);
+// The arguments after "ls": PATH [PATTERN] [--json].
+int run_ls(std::vector<std::string> const& args);
 
 }  // namespace ovi18n_tool
 

@@ -17,6 +17,7 @@ void print_help(std::ostream& out) {
            "  convert --from ENC --to ENC [--on-error MODE] [--quiet] [FILE...]  re-encode text\n"
            "  encodings [--json]              the encodings the library can open\n"
            "  tz [ZONE] [--at TIME] [--json]  a time (ISO 8601) to and from UTC in a zone\n"
+           "  ls PATH [PATTERN] [--json]      list a directory; PATTERN's only wildcard is *\n"
            "  (convert's MODE: stop (default), replace, substitute=BYTES, escape-icu, "
            "escape-java,\n"
            "   escape-c, escape-xml-dec, escape-xml-hex, escape-unicode, escape-css2)\n"
@@ -70,6 +71,9 @@ int run(std::vector<std::string> const& args) {
     }
     if (command == "tz") {
         return ovi18n_tool::run_tz(rest, std::cout);
+    }
+    if (command == "ls") {
+        return ovi18n_tool::run_ls(rest);
     }
     return usage_error("unknown command '" + command + "'");
 }

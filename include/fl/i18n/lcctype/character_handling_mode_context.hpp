@@ -26,6 +26,8 @@ public:
     bool is_normalized_decompose_mode() const noexcept { return (mask_ & 0x6U) == 0x6U; }
     // Only stored and reported here; the file system layer gives it a meaning.
     bool is_locale_dependent_mode() const noexcept { return (mask_ & 0x8U) != 0; }
+    // The mask as given, for callers that dispatch on exact values.
+    unsigned int get_mask() const noexcept { return mask_; }
 
 private:
     unsigned int mask_;
