@@ -1,10 +1,11 @@
 #include "filesystem/seed_rng.hpp"
 
-#include <boost/uuid/detail/sha1.hpp>
+#include <sys/random.h>
 
+#include <cerrno>
 #include <chrono>
-#include <cstdio>
-#include <memory>
+#include <cstddef>
+#include <cstdint>
 
 namespace fl {
 namespace filesystem {
@@ -12,42 +13,56 @@ namespace detail {
 
 namespace {
 
-constexpr std::size_t entropy_bytes = 20;
+// Whether the kernel filled all of buffer with random bytes.
+bool fill_from_kernel(void* buffer, std::size_t size) {
+    auto* bytes = static_cast<unsigned char*>(buffer);
+    while (size > 0) {
+        ssize_t const got = ::getrandom(bytes, size, 0);
+        if (got < 0) {
+            if (errno == EINTR) {
+                continue;
+            }
+            return false;
+        }
+        bytes += got;
+        size -= static_cast<std::size_t>(got);
+    }
+    return true;
+}
 
-struct file_closer {
-    void operator()(std::FILE* file) const noexcept { std::fclose(file); }
-};
+// One step of splitmix64, enough to spread clock, address and counter over the words.
+std::uint64_t mix(std::uint64_t& state) {
+    std::uint64_t z = (state += 0x9E3779B97F4A7C15u);
+    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9u;
+    z = (z ^ (z >> 27)) * 0x94D049BB133111EBu;
+    return z ^ (z >> 31);
+}
 
 }  // namespace
 
 seed_rng::seed_rng() = default;
 
 seed_rng::result_type seed_rng::operator()() {
-    if (used_ == 5) {
+    if (used_ == words) {
         refill();
     }
-    return digest_[used_++];
+    return words_[used_++];
 }
 
 void seed_rng::refill() {
-    boost::uuids::detail::sha1 hash;
-    unsigned char entropy[entropy_bytes] = {};
-    std::unique_ptr<std::FILE, file_closer> const source(std::fopen("/dev/urandom", "rb"));
-    if (source) {
-        std::setbuf(source.get(), nullptr);
-        std::size_t const got = std::fread(entropy, 1, sizeof entropy, source.get());
-        static_cast<void>(got);  // a short read leaves zeros, which the other inputs outweigh
-    }
-    hash.process_bytes(entropy, sizeof entropy);
-    hash.process_bytes(digest_, sizeof digest_);
-    void const* const self = this;
-    hash.process_bytes(&self, sizeof self);
-    auto const now = std::chrono::high_resolution_clock::now().time_since_epoch().count();
-    hash.process_bytes(&now, sizeof now);
-    hash.process_bytes(&counter_, sizeof counter_);
-    ++counter_;
-    hash.get_digest(digest_);
     used_ = 0;
+    int const saved_errno = errno;
+    bool const filled = fill_from_kernel(words_, sizeof words_);
+    errno = saved_errno;
+    if (filled) {
+        return;
+    }
+    auto const now = std::chrono::high_resolution_clock::now().time_since_epoch().count();
+    std::uint64_t state = static_cast<std::uint64_t>(now) ^ reinterpret_cast<std::uintptr_t>(this) ^
+                          (static_cast<std::uint64_t>(++counter_) << 32);
+    for (std::uint32_t& word : words_) {
+        word = static_cast<std::uint32_t>(mix(state) >> 32);
+    }
 }
 
 }  // namespace detail

@@ -8,10 +8,10 @@ namespace fl {
 namespace filesystem {
 namespace detail {
 
-// Seed words for a pseudo-random engine: bytes from "/dev/urandom" mixed with the address of
-// this object, the clock and a running counter, hashed with SHA-1. Without "/dev/urandom" the
-// other inputs still give varying seeds. A uniform random number generator, so that an
-// engine can draw from it, directly or as a seed sequence.
+// Seed words for a pseudo-random engine, straight from the kernel's random source
+// (getrandom). Should that fail, the clock, the address of this object and a running counter,
+// mixed, still give varying seeds. A uniform random number generator, so that an engine can
+// draw from it, directly or as a seed sequence.
 class seed_rng {
 public:
     using result_type = std::uint32_t;
@@ -33,9 +33,11 @@ public:
 private:
     void refill();
 
-    std::uint32_t digest_[5] = {};
+    static constexpr unsigned words = 8;
+
+    std::uint32_t words_[words] = {};
     std::uint32_t counter_ = 0;
-    unsigned used_ = 5;
+    unsigned used_ = words;
 };
 
 }  // namespace detail

@@ -30,8 +30,12 @@ std::FILE* tmpfile(ustring& name, ustring const& directory, ustring const& prefi
     ustring candidate = tmpnam(base, prefix, suffix);
     std::FILE* file = nullptr;
     for (int counter = retries;; --counter) {
+        // Created exclusively ("x", O_EXCL), unlike a plain "wb+": a file that already has the
+        // name is not truncated, and a link planted under it is not followed. This departs on
+        // purpose, for safety, from opening with "wb+"; it changes results only when the name
+        // is taken, and then the loop goes on with another name.
         file = detail::platform::open_file(detail::make_native_access_form_with_cleanup(candidate),
-                                           "wb+");
+                                           "wb+x");
         if (file != nullptr || counter < 1) {
             break;
         }

@@ -1,6 +1,7 @@
 #include "report.hpp"
 
 #include "json_string.hpp"
+#include "terminal_text.hpp"
 
 namespace ovi18n_tool {
 namespace {
@@ -11,7 +12,7 @@ void print_text_entries(std::ostream& out, std::vector<report::entry> const& ent
                         std::size_t depth, bool items) {
     std::string const indent(depth * 2, ' ');
     for (report::entry const& e : entries) {
-        std::string const label = items ? "-" : e.key + ":";
+        std::string const label = items ? "-" : terminal_text(e.key) + ":";
         switch (e.type) {
             case kind::object:
                 out << indent << label << "\n";
@@ -25,7 +26,8 @@ void print_text_entries(std::ostream& out, std::vector<report::entry> const& ent
                 out << indent << label << " (unset)\n";
                 break;
             default:
-                out << indent << label << (e.value.empty() ? "" : " ") << e.value << "\n";
+                out << indent << label << (e.value.empty() ? "" : " ") << terminal_text(e.value)
+                    << "\n";
         }
     }
 }

@@ -8,6 +8,9 @@
 
 #include <unicode/ustring.h>
 
+#include <algorithm>
+#include <string>
+
 namespace fl {
 namespace i18n {
 
@@ -43,9 +46,8 @@ std::size_t to_modified_utf8(char* destination, std::size_t capacity, char16_t c
     detail::throw_conversion_error(error);
 }
 
-std::size_t from_modified_utf8(char16_t* destination, std::size_t capacity, char const* source,
-                               std::size_t size) {
-    check_sizes(size, capacity);
+std::size_t icu_from_modified_utf8(char16_t* destination, std::size_t capacity, char const* source,
+                                   std::size_t size) {
     UErrorCode error = U_ZERO_ERROR;
     int32_t length = 0;
     u_strFromJavaModifiedUTF8WithSub(destination, static_cast<int32_t>(capacity), &length, source,
@@ -54,6 +56,43 @@ std::size_t from_modified_utf8(char16_t* destination, std::size_t capacity, char
         return static_cast<std::size_t>(length);
     }
     detail::throw_conversion_error(error);
+}
+
+bool is_continuation(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
+
+// ICU's decoder may read one byte behind its source when the text ends in a multi-byte
+// sequence, and then also decodes that byte. Text that ends in an ASCII byte is safe, so only the
+// last sequence, from its last byte that is not a continuation byte, is converted apart: from a
+// copy that ends in a sentinel 'A', whose own unit is dropped again. No sequence spans a
+// byte that is not a continuation byte, so the two parts give what the whole would; the head
+// may be read one byte too far, but that byte is the tail's first and lies inside the source.
+std::size_t from_modified_utf8(char16_t* destination, std::size_t capacity, char const* source,
+                               std::size_t size) {
+    check_sizes(size, capacity);
+    if (size == 0 || static_cast<unsigned char>(source[size - 1]) < 0x80) {
+        return icu_from_modified_utf8(destination, capacity, source, size);
+    }
+    std::size_t split = size - 1;
+    while (split > 0 && is_continuation(source[split])) {
+        --split;
+    }
+    std::size_t const head = icu_from_modified_utf8(destination, capacity, source, split);
+    std::string tail(source + split, size - split);
+    tail += 'A';
+    std::u16string units(tail.size(), u'\0');
+    std::size_t const tail_units =
+        icu_from_modified_utf8(&units[0], units.size(), tail.data(), tail.size()) - 1;
+    std::size_t const needed = head + tail_units;
+    if (head < capacity) {
+        std::size_t const stored = std::min(tail_units, capacity - head);
+        std::char_traits<char16_t>::copy(destination + head, units.data(), stored);
+        if (needed < capacity) {
+            destination[needed] = u'\0';  // terminated when there is room, as ICU does
+        }
+    }
+    return needed;
 }
 
 }  // namespace

@@ -24,11 +24,16 @@ bool is_null_position(Iterator const& position) {
     }
 }
 
-// The walk shared by scan and the ctype facet. A high surrogate is joined with the unit after it
-// only when the unit two places on is a low surrogate; an ordinary pair followed by anything else
-// is tested half by half. The end test is for equality only, so a join that steps over last
-// walks on beyond it. Callers depend on these answers, so the walk stays as it is.
-template <class Iterator>
+// The walk of scan. A high surrogate is joined with the unit after it only when the unit two
+// places on is a low surrogate; an ordinary pair followed by anything else is tested half by
+// half. The end test is for equality only, so a join that steps over last walks on beyond it.
+// Callers of scan depend on these answers, so the walk stays as it is.
+//
+// With bounded set, a unit at or past last counts as not a low surrogate, so the walk never reads
+// outside [first, last) and never returns beyond last; wherever the plain walk stays inside the
+// range, both give the same answer. The ctype facet needs this: a standard facet must not read
+// outside the range it is given, so it departs from the plain walk there for memory safety.
+template <bool bounded = false, class Iterator>
 Iterator scan_walk(Iterator first, Iterator last, char_predicate const& hit) {
     if (is_null_position(first) || is_null_position(last) || first == last) {
         return last;
@@ -38,7 +43,8 @@ Iterator scan_walk(Iterator first, Iterator last, char_predicate const& hit) {
         char16_t const unit = *position;
         Iterator next = position + 1;
         char32_t value = unit;
-        if (U16_IS_LEAD(unit) && U16_IS_TRAIL(*(position + 2))) {
+        bool const trail_in_reach = !bounded || last - position > 2;
+        if (U16_IS_LEAD(unit) && trail_in_reach && U16_IS_TRAIL(*(position + 2))) {
             value = static_cast<char32_t>(U16_GET_SUPPLEMENTARY(unit, *next));
             next = position + 2;
         }

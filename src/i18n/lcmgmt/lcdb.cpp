@@ -85,19 +85,10 @@ void Lcdb::fill_builtin_tables() {
         region_index_[detail::to_ascii_lower(builtin::region_names[i])] =
             static_cast<std::uint16_t>(i);
     }
-    // The searches walk a language's rows in table order. Inserting each row right after the
-    // previous one of its language keeps that order inside the multimap.
-    auto previous = language_entries_.end();
-    std::uint16_t previous_language = no_index;
     for (std::size_t i = 0; i < builtin::language_row_count; ++i) {
         language_entry const& row = builtin::language_rows[i];
-        std::string key = detail::to_ascii_lower(builtin::language_names[row.language]);
-        if (row.language != previous_language) {
-            previous = language_entries_.emplace(std::move(key), row);
-        } else {
-            previous = language_entries_.emplace_hint(previous, std::move(key), row);
-        }
-        previous_language = row.language;
+        language_entries_[detail::to_ascii_lower(builtin::language_names[row.language])].push_back(
+            row);
     }
     for (std::size_t i = 0; i < builtin::encoding_row_count; ++i) {
         builtin::encoding_row const& row = builtin::encoding_rows[i];

@@ -46,14 +46,18 @@ std::uint16_t index_in(std::unordered_map<std::string, std::uint16_t> const& ind
 
 }  // namespace
 
+std::vector<language_entry> const& Lcdb::language_rows(std::string const& language) const {
+    static std::vector<language_entry> const* const none = new std::vector<language_entry>();
+    auto const found = language_entries_.find(language);
+    return found == language_entries_.end() ? *none : found->second;
+}
+
 language_entry Lcdb::find_language_entry(std::string const& language, std::string const& script,
                                          std::string const& region) const {
-    auto const rows = language_entries_.equal_range(language);
     std::size_t candidates = 0;
     language_entry last = null_language_entry();
     language_entry preferred = null_language_entry();
-    for (auto it = rows.first; it != rows.second; ++it) {
-        language_entry const& row = it->second;
+    for (language_entry const& row : language_rows(language)) {
         bool script_matched = false;
         if (!script.empty() && row.script != no_index) {
             if (find_ignoring_case(builtin::script_names[row.script], script) ==
@@ -85,9 +89,9 @@ language_entry Lcdb::find_language_entry(std::string const& language, std::strin
 language_entry Lcdb::find_locale_entry(locale_name_context const& name) const {
     std::string const language = detail::to_ascii_lower(name.language);
     if (name.script.empty() && name.region.empty()) {
-        auto const rows = language_entries_.equal_range(language);
-        if (rows.first != rows.second && std::next(rows.first) == rows.second) {
-            language_entry row = rows.first->second;
+        std::vector<language_entry> const& rows = language_rows(language);
+        if (rows.size() == 1) {
+            language_entry row = rows.front();
             char const* region = region_of(row);
             // A single region, not a list: the language names its one place of use.
             if (region == nullptr || std::strlen(region) < 4) {

@@ -6,6 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/mman.h>
+#include <unistd.h>
+
 #include <string>
 #include <vector>
 
@@ -109,6 +112,29 @@ TEST(modified_utf8, illegal_bytes_are_replaced_and_sizes_checked) {
               codecvt_size_too_large);
     EXPECT_EQ(thrown_id([&] { in.do_get_destination_size("a", 0x80000000u); }),
               codecvt_size_too_large);
+}
+
+// The text ends inside a four-byte sequence right before an unreadable page: nothing may read
+// behind it, and every form gives the measured length.
+TEST(modified_utf8, text_ending_in_a_truncated_sequence_is_read_only_within_its_bounds) {
+    std::string const bytes("\xF0\x9F\x98\x80\xF0\x9F\x98\xF0\x9F\x98\x80\xF0\x9F\x98\xBE");
+    long const page = sysconf(_SC_PAGESIZE);
+    auto* const pages = static_cast<char*>(
+        mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(pages, MAP_FAILED);
+    ASSERT_EQ(mprotect(pages + page, page, PROT_NONE), 0);
+    char* const source = pages + page - bytes.size();
+    bytes.copy(source, bytes.size());
+
+    codecvt_modified_utf8_to_ustring const in;
+    std::u16string const expected(4, u'\uFFFD');
+    EXPECT_EQ(in.do_get_destination_size(source, bytes.size()), 4u);
+    EXPECT_EQ(in.do_convert(source, bytes.size()), expected);
+    char16_t units[8];
+    EXPECT_EQ(in.do_convert(units, 8, source, bytes.size()), 4u);
+    EXPECT_EQ(std::u16string(units, 4), expected);
+    EXPECT_EQ(in.do_convert(bytes.data(), bytes.size()), expected);  // no U+0000 from behind
+    munmap(pages, 2 * page);
 }
 
 struct wide_case {

@@ -4,6 +4,7 @@
 
 #include <fl/i18n/ustring.hpp>
 
+#include <memory>
 #include <vector>
 
 using fl::i18n::ustring;
@@ -57,7 +58,7 @@ TEST(CtypeFacet, RangeMasksJoinPairsAndNeverSetPrint) {
     EXPECT_TRUE(ctype().is(base::print, u'A'));
 }
 
-// How the walk treats surrogates is the scan's own, tested there.
+// How the walk treats surrogates is the scan's own, tested there; the facet only bounds it.
 TEST(CtypeFacet, ScanningTranslatesTheMask) {
     struct {
         ustring text;
@@ -76,6 +77,19 @@ TEST(CtypeFacet, ScanningTranslatesTheMask) {
             test.inside ? ctype().scan_is(test.m, lo, hi) : ctype().scan_not(test.m, lo, hi);
         EXPECT_EQ(found - lo, test.hit) << "mask " << std::hex << test.m;
     }
+}
+
+// A high surrogate at the end must not make the scan read past hi (a heap buffer, for
+// AddressSanitizer), nor return past hi when the units behind the range would form a pair.
+TEST(CtypeFacet, ScanningStaysInsideItsRange) {
+    auto const tail = std::make_unique<char16_t[]>(2);
+    tail[0] = u'a';
+    tail[1] = 0xD801;
+    EXPECT_EQ(ctype().scan_is(base::upper, tail.get(), tail.get() + 2), tail.get() + 2);
+    ustring const padded = u"a\xD801\x0041\xDC00";
+    char16_t const* lo = padded.data();
+    EXPECT_EQ(ctype().scan_is(base::cntrl, lo, lo + 2), lo + 2);
+    EXPECT_EQ(ctype().scan_not(base::lower, lo, lo + 2), lo + 1);
 }
 
 TEST(CtypeFacet, CaseMappingKeepsPairsTogether) {

@@ -45,7 +45,7 @@ def main(argv):
         elif expected == "null":
             ok = actual is None
         else:
-            ok = actual == expected or json.dumps(actual) == expected
+            ok = actual == expected or json.dumps(actual, separators=(",", ":")) == expected
         if not ok:
             failures.append(f"{check}: got {json.dumps(actual)}")
     if failures:

@@ -15,7 +15,9 @@ namespace lcctype {
 //
 // A high surrogate is joined only when the unit two places on is a low surrogate, and then with
 // the unit between; the walk therefore reads up to two units past its position, and must be
-// given text that is readable there.
+// given text that is readable there. Only equality with last ends the walk, so a pair joined
+// across last steps over it: the walk then goes on beyond last and may return a position past
+// it. The char16_t ctype facet does not use this walk as is: it bounds it to its range.
 FL_I18N_API char16_t* scan(unsigned int mask, char16_t* first, char16_t* last, is_posix const&);
 FL_I18N_API char16_t const* scan(unsigned int mask, char16_t const* first, char16_t const* last,
                                  is_posix const&);

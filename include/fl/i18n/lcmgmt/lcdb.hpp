@@ -11,6 +11,7 @@
 #include <string>
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace fl {
 namespace i18n {
@@ -127,7 +128,10 @@ private:
     std::shared_ptr<encoding_entry_context> find_or_create_encoding(std::string const& name);
     std::string opt_data_key(std::string const& locale, std::string const& key) const;
 
-    std::unordered_multimap<std::string, language_entry> language_entries_;
+    std::vector<language_entry> const& language_rows(std::string const& language) const;
+
+    // Each language's rows in table order, which the searches depend on.
+    std::unordered_map<std::string, std::vector<language_entry>> language_entries_;
     std::unordered_map<std::string, std::uint16_t> script_index_;
     std::unordered_map<std::string, std::uint16_t> region_index_;
     std::unordered_map<std::string, std::shared_ptr<encoding_entry_context>> encodings_;

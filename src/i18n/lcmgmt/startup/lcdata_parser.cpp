@@ -8,6 +8,7 @@
 
 #include <expat.h>
 
+#include <exception>
 #include <memory>
 
 namespace fl {
@@ -24,10 +25,26 @@ struct parse_record {
     // The first refusal; expat may still deliver an event or two after being stopped, and
     // those must not reach the handler.
     int stopped;
+    // An exception from the handler, held until XML_Parse has returned: it must not unwind
+    // through expat's C frames.
+    std::exception_ptr failure;
 };
 
-void act_on(parse_record& record, int result) {
-    if (result != 0 && record.stopped == 0) {
+// Runs one handler call unless the parse was stopped; a refusal or an exception stops it.
+template <class Call>
+void deliver(void* data, Call call) {
+    auto& record = *static_cast<parse_record*>(data);
+    if (record.stopped != 0) {
+        return;
+    }
+    int result = 0;
+    try {
+        result = call(*record.handler);
+    } catch (...) {
+        record.failure = std::current_exception();
+        result = -1;
+    }
+    if (result != 0) {
         record.stopped = result;
         XML_StopParser(record.parser, XML_FALSE);
     }
@@ -35,44 +52,34 @@ void act_on(parse_record& record, int result) {
 
 void XMLCALL on_xml_decl(void* data, XML_Char const* version, XML_Char const* encoding,
                          int standalone) {
-    auto& record = *static_cast<parse_record*>(data);
-    if (record.stopped == 0) {
-        act_on(record, record.handler->xmlDecl(version, encoding, standalone));
-    }
+    deliver(data, [&](EventHandler& h) { return h.xmlDecl(version, encoding, standalone); });
 }
 
 void XMLCALL on_start(void* data, XML_Char const* name, XML_Char const** attributes) {
-    auto& record = *static_cast<parse_record*>(data);
-    if (record.stopped == 0) {
-        act_on(record, record.handler->startElement(name, attributes));
-    }
+    deliver(data, [&](EventHandler& h) { return h.startElement(name, attributes); });
 }
 
 void XMLCALL on_end(void* data, XML_Char const* name) {
-    auto& record = *static_cast<parse_record*>(data);
-    if (record.stopped == 0) {
-        act_on(record, record.handler->endElement(name));
-    }
+    deliver(data, [&](EventHandler& h) { return h.endElement(name); });
 }
 
 void XMLCALL on_character_data(void* data, XML_Char const* text, int length) {
-    auto& record = *static_cast<parse_record*>(data);
-    if (record.stopped == 0) {
-        act_on(record, record.handler->characterData(text, length));
-    }
+    deliver(data, [&](EventHandler& h) { return h.characterData(text, length); });
 }
 
 struct parser_free {
     void operator()(XML_ParserStruct* parser) const { XML_ParserFree(parser); }
 };
 
-void parse(EventHandler& handler, std::istream& input, std::string const& path) {
+}  // namespace
+
+void parseXml(EventHandler& handler, std::istream& input, std::string const& path) {
     std::unique_ptr<XML_ParserStruct, parser_free> const parser(
         XML_ParserCreate(handler.parserEncoding()));
     if (!parser) {
         fl::detail::throw_exception(LcRscParserCreationFailure());
     }
-    parse_record record{&handler, parser.get(), 0};
+    parse_record record{&handler, parser.get(), 0, nullptr};
     XML_SetUserData(parser.get(), &record);
     XML_SetXmlDeclHandler(parser.get(), &on_xml_decl);
     XML_SetElementHandler(parser.get(), &on_start, &on_end);
@@ -85,8 +92,12 @@ void parse(EventHandler& handler, std::istream& input, std::string const& path) 
             fl::detail::throw_exception(LcRscFileReadFailure(path));
         }
         bool const last = input.eof();
-        if (XML_Parse(parser.get(), piece, static_cast<int>(input.gcount()), last ? 1 : 0) ==
-            XML_STATUS_ERROR) {
+        XML_Status const status =
+            XML_Parse(parser.get(), piece, static_cast<int>(input.gcount()), last ? 1 : 0);
+        if (record.failure) {
+            std::rethrow_exception(record.failure);
+        }
+        if (status == XML_STATUS_ERROR) {
             fl::detail::throw_exception(LcRscInvalidXmlDoc(
                 static_cast<int>(XML_GetErrorCode(parser.get())),
                 XML_GetCurrentColumnNumber(parser.get()), XML_GetCurrentLineNumber(parser.get())));
@@ -97,12 +108,10 @@ void parse(EventHandler& handler, std::istream& input, std::string const& path) 
     }
 }
 
-}  // namespace
-
 void parseLcData(Lcdb& database, std::istream& input, std::string const& path,
                  std::vector<std::string>& warnings) {
     LcdbEventHandler handler(database, warnings);
-    parse(handler, input, path);
+    parseXml(handler, input, path);
 }
 
 void parseLcData(Lcdb& database, std::string const& path, std::vector<std::string>& warnings) {

@@ -16,6 +16,12 @@ namespace lcmgmt {
 // did before a failure stays applied. The path is in access form (bytes as the system takes them).
 void parseLcData(Lcdb& database, std::string const& path, std::vector<std::string>& warnings);
 
+class EventHandler;
+
+// Feeds the document on input to handler. An exception from the handler stops the parse and
+// leaves this function as it was thrown, without passing through the XML parser.
+void parseXml(EventHandler& handler, std::istream& input, std::string const& path);
+
 // The same over an open stream; path only names it in messages.
 void parseLcData(Lcdb& database, std::istream& input, std::string const& path,
                  std::vector<std::string>& warnings);

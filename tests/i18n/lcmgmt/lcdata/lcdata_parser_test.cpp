@@ -2,6 +2,7 @@
 #include <fl/i18n/lcmgmt/lcdb.hpp>
 
 #include "filesystem/streams/scratch_directory.hpp"
+#include "i18n/lcmgmt/event_handler.hpp"
 #include "i18n/lcmgmt/startup/lcdata_parser.hpp"
 
 #include <gtest/gtest.h>
@@ -208,6 +209,32 @@ TEST(LcdataFile, FailuresNameTheFileInPrintableForm) {
         EXPECT_EQ(3, e.getCode());
         EXPECT_EQ("Failed to read file " + dir.bytes() + ".", e.what());
     }
+}
+
+}  // namespace
+
+namespace {
+
+struct handler_failure {};
+
+// Records the elements it sees and throws at the second.
+struct throwing_handler : fl::i18n::lcmgmt::EventHandler {
+    int xmlDecl(char const*, char const*, int) override { return 0; }
+    int startElement(char const* name, char const**) override {
+        events.push_back(name);
+        return events.size() == 2 ? throw handler_failure() : 0;
+    }
+    int characterData(char const*, int) override { return 0; }
+    int endElement(char const*) override { return 0; }
+    char const* parserEncoding() const override { return nullptr; }
+    strings events;
+};
+
+TEST(LcdataParser, HandlerExceptionStopsTheParseAndReachesTheCaller) {
+    throwing_handler handler;
+    std::istringstream input("<a><b/><c/></a>");
+    EXPECT_THROW(fl::i18n::lcmgmt::parseXml(handler, input, "memory.xml"), handler_failure);
+    EXPECT_EQ(handler.events, (strings{"a", "b"}));
 }
 
 }  // namespace
