@@ -110,33 +110,6 @@ TEST(LocaleCopy, ReadsAnyOvLocaleThroughItsInterface) {
     EXPECT_EQ(copy.terminal_encoding(), "UTF-8");
 }
 
-// A copy of an OvLocaleImpl reads its data directly; it must give what the interface gives.
-TEST(LocaleCopy, DirectCopyOfAnImplMatchesTheInterfaceCopy) {
-    struct forwarding : OvLocale {
-        explicit forwarding(OvLocale const& to) : to(to) {}
-        bool operator==(OvLocale const& o) const override { return to == o; }
-        bool operator!=(OvLocale const& o) const override { return to != o; }
-        std::string getLocaleName(LcCategory c) const override { return to.getLocaleName(c); }
-        std::string getLanguage(LcCategory c) const override { return to.getLanguage(c); }
-        std::string getRegion(LcCategory c) const override { return to.getRegion(c); }
-        std::string getModifier(LcCategory c) const override { return to.getModifier(c); }
-        std::string getEncoding() const override { return to.getEncoding(); }
-        OvLcOptDataCtx::value_type getOptData(OvLcOptDataCtx::LcOptDataType t) const override {
-            return to.getOptData(t);
-        }
-        OvLocale const& to;
-    };
-    auto const source = distinct_locale();
-    source->set_category("en_US_POSIX", "@x", OvLocale::messages);
-    for (char const* terminal : {"", "ISO-8859-15"}) {
-        source->set_terminal_encoding(terminal);
-        OvLocaleImpl const direct(nullptr, *source);
-        OvLocaleImpl const through(nullptr, forwarding(*source));
-        EXPECT_TRUE(direct == through) << terminal;
-        EXPECT_EQ(direct.terminal_encoding(), through.terminal_encoding()) << terminal;
-    }
-}
-
 TEST(LocalePublish, EarlierReferencesSeeTheNewDataAndOldTextStays) {
     OvLocaleImpl published(nullptr);
     published.set_terminal_encoding("US-ASCII");

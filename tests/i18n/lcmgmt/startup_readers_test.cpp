@@ -31,18 +31,17 @@ void read_everything() {
 
 TEST(StartUpReaders, SeeOneSettingOrTheOtherWhileStartUpRuns) {
     OvLocale const& system_before = OvLocale::system();
-    std::atomic<bool> started{false};
+    std::atomic<int> started{0};
     std::atomic<bool> done{false};
     std::vector<std::thread> readers;
     for (int i = 0; i < 3; ++i) {
         readers.emplace_back([&] {
-            started = true;
-            do {
+            for (++started; !done;) {
                 read_everything();
-            } while (!done);
+            }
         });
     }
-    while (!started) {
+    while (started < 3) {
         std::this_thread::yield();
     }
     fl::i18n::initialize();
