@@ -27,7 +27,7 @@ using fl::i18n::ustring;
 // anything converts.
 void make_default_encoding_utf8() {
     auto& context = fl::i18n::lcmgmt::manager_context::instance();
-    static fl::i18n::OvLocaleImpl utf8(&context.database, *context.global_locale.load());
+    static fl::i18n::OvLocaleImpl utf8(&context.database(), *context.global_locale.load());
     utf8.set_encoding("UTF-8");
     context.global_locale = &utf8;
     if (fl::i18n::to_ustring("\xC3\xA9") != u"\u00E9") {

@@ -7,7 +7,7 @@ namespace fl {
 namespace i18n {
 
 std::string get_standard_encoding_name(std::string const& name) {
-    lcmgmt::Lcdb const& database = lcmgmt::manager_context::instance().database;
+    lcmgmt::Lcdb const& database = lcmgmt::manager_context::instance().database();
     // The database wins before ICU is asked: its names are the ones the rest of the library uses.
     if (char const* known = database.standard_encoding_name(name)) {
         return known;

@@ -51,31 +51,32 @@ resolved_name resolve(lcmgmt::Lcdb const& database, std::string const& name,
     return result;
 }
 
+// One load of what start-up publishes serves the whole creation, so a locale made while
+// start-up runs never mixes the tables before and after it.
 std::unique_ptr<OvLocaleImpl> from_name(std::string const& name) {
-    manager_context& context = manager_context::instance();
-    resolved_name const resolved =
-        resolve(context.database, name, lcmgmt::locale_name_prefix(name));
-    auto locale = std::make_unique<OvLocaleImpl>(&context.database);
+    lcmgmt::lookup_data const& lookup = manager_context::instance().lookup();
+    resolved_name const resolved = resolve(lookup.database, name, lcmgmt::locale_name_prefix(name));
+    auto locale = std::make_unique<OvLocaleImpl>(&lookup.database);
     for (int c = 0; c < OvLocaleImpl::category_count; ++c) {
         locale->set_category(resolved.canonical, resolved.modifier,
                              static_cast<OvLocale::LcCategory>(c));
     }
     if (!resolved.encoding.empty()) {
         locale->set_encoding(resolved.encoding);
-    } else if (context.setting.use_utf8_as_default) {
+    } else if (lookup.use_utf8_as_default) {
         locale->set_encoding("UTF-8");
     } else {
-        locale->set_encoding(context.database.default_encoding_of(resolved.canonical));
+        locale->set_encoding(lookup.database.default_encoding_of(resolved.canonical));
     }
     return locale;
 }
 
 std::unique_ptr<OvLocaleImpl> copy_of(OvLocale const& source) {
-    return std::make_unique<OvLocaleImpl>(&manager_context::instance().database, source);
+    return std::make_unique<OvLocaleImpl>(&manager_context::instance().database(), source);
 }
 
 void apply(OvLocaleImpl& locale, OvLocale::LcCategory category, std::string const& name) {
-    resolved_name const resolved = resolve(manager_context::instance().database, name, name);
+    resolved_name const resolved = resolve(*locale.database(), name, name);
     locale.set_category(resolved.canonical, resolved.modifier, category);
 }
 

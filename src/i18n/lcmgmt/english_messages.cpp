@@ -10,7 +10,7 @@ void switch_to_english_messages(manager_context& context) {
     if (messages == "en_US" || messages == "en_US_POSIX") {
         return;
     }
-    auto english = std::make_unique<OvLocaleImpl>(&context.database, *context.user_locale);
+    auto english = std::make_unique<OvLocaleImpl>(&context.database(), *context.user_locale);
     english->set_category("en_US", "", OvLocale::messages);
     // The old English locale may still be read by another thread through global_locale; the
     // switch happens once per process, so the first one is kept alive rather than deleted.

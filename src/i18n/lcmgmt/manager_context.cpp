@@ -35,7 +35,8 @@ thread_local bool creating_manager = false;
 
 }  // namespace
 
-manager_context::manager_context() {
+// The built-in tables answer until start-up publishes the ones extended by the database file.
+manager_context::manager_context() : lookup_(new lookup_data) {
     static char const* const category_names[] = {"ctype",   "collate",  "time",
                                                  "numeric", "monetary", "messages"};
     for (int c = 0; c < OvLocaleImpl::category_count; ++c) {
@@ -65,9 +66,9 @@ void manager_context::create() {
 }
 
 void manager_context::apply_default_setting() {
-    classic_locale = make_posix_locale(&database);
-    system_locale = make_default_user_locale(&database);
-    user_locale = make_default_user_locale(&database);
+    classic_locale = make_posix_locale(&database());
+    system_locale = make_default_user_locale(&database());
+    user_locale = make_default_user_locale(&database());
     global_locale = classic_locale.get();
 
     ucnv_setDefaultName("US-ASCII");

@@ -24,6 +24,15 @@ namespace lcmgmt {
 
 class system_setting_reader;
 
+// What locale creation and encoding lookups consult without a lock. Start-up builds a new one
+// and publishes it once; the one it replaces is never freed, as a reader may still hold it.
+struct lookup_data {
+    Lcdb database;
+    bool use_utf8_as_default = false;
+    // Kept reachable rather than freed.
+    lookup_data const* replaced = nullptr;
+};
+
 // The process-wide locale state. Created on first touch and never destroyed, so references to
 // its locales stay valid for the life of the process, even during static destruction.
 class manager_context {
@@ -34,7 +43,6 @@ public:
     bool initialized = false;
     std::int32_t status = status_not_initialized;
     std::string status_message;
-    Lcdb database;
     locale_env_snapshot setting;
     std::unique_ptr<OvLocaleImpl> classic_locale;
     std::unique_ptr<OvLocaleImpl> system_locale;
@@ -53,6 +61,14 @@ public:
     // The database file start-up read (or tried to), kept for diagnostics.
     std::string database_file;
 
+    lookup_data const& lookup() const noexcept { return *lookup_.load(std::memory_order_acquire); }
+    Lcdb const& database() const noexcept { return lookup().database; }
+    // Start-up only, under the mutex.
+    void publish(lookup_data* fresh) noexcept {
+        fresh->replaced = lookup_.load(std::memory_order_relaxed);
+        lookup_.store(fresh, std::memory_order_release);
+    }
+
     manager_context(manager_context const&) = delete;
     manager_context& operator=(manager_context const&) = delete;
 
@@ -60,6 +76,8 @@ private:
     manager_context();
     static void create();
     void apply_default_setting();
+
+    std::atomic<lookup_data const*> lookup_;
 };
 
 // Gives messages in English from here on; the caller holds the mutex.

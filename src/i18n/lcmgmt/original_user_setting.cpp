@@ -25,7 +25,7 @@ system_setting_context get_original_user_locale_setting() {
 }
 
 bool is_supported_encoding(std::string const& name) {
-    Lcdb const& database = manager_context::instance().database;
+    Lcdb const& database = manager_context::instance().database();
     if (database.find_encoding_entry(name)) {
         return true;
     }

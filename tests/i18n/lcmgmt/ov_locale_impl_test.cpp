@@ -110,6 +110,16 @@ TEST(LocaleCopy, ReadsAnyOvLocaleThroughItsInterface) {
     EXPECT_EQ(copy.terminal_encoding(), "UTF-8");
 }
 
+TEST(LocalePublish, EarlierReferencesSeeTheNewDataAndOldTextStays) {
+    OvLocaleImpl published(nullptr);
+    published.set_terminal_encoding("US-ASCII");
+    std::string const& old_terminal = published.terminal_encoding();
+    published.publish(*distinct_locale());
+    EXPECT_TRUE(published == *distinct_locale());
+    EXPECT_EQ(published.getModifier(OvLocale::time), "@m2");
+    EXPECT_EQ(old_terminal, "US-ASCII");
+}
+
 TEST(LocaleNames, LanguageAndRegionComeFromTheCategoryName) {
     auto const expect_parts = [](char const* name, char const* language, char const* region) {
         OvLocaleImpl locale(nullptr);

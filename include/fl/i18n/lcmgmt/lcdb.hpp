@@ -18,8 +18,8 @@ namespace i18n {
 namespace lcmgmt {
 
 // The locale and encoding database: built-in tables, extended by lcdata.xml at start-up. Every
-// value is a pointer into static or pooled text, so lookups copy nothing. It is written only
-// during start-up, under the manager's mutex, and read without locks afterwards.
+// value is a pointer into static or pooled text, so lookups copy nothing. The manager's one is
+// filled before it is published and never changes after, so it is read without locks.
 class FL_I18N_API Lcdb {
 public:
     using opt_data = std::pair<std::string, ustring>;

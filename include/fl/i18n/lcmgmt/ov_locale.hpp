@@ -14,7 +14,8 @@ namespace fl {
 namespace i18n {
 
 // A locale: six categories, each with a name and a modifier, plus an encoding and a terminal
-// encoding. Locales never change once handed out, so they are read without locks.
+// encoding. Locales are read without locks: one handed out never changes, except that
+// system() and the user locale switch once, whole, to the setting start-up reads.
 class FL_I18N_API OvLocale : private boost::noncopyable {
 public:
     enum LcCategory { ctype = 0, collate = 1, time = 2, numeric = 3, monetary = 4, messages = 5 };

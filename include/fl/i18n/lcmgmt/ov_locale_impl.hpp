@@ -4,6 +4,7 @@
 #include <fl/i18n/export.hpp>
 #include <fl/i18n/lcmgmt/ov_locale.hpp>
 
+#include <atomic>
 #include <string>
 
 namespace fl {
@@ -14,7 +15,8 @@ class Lcdb;
 }
 
 // The one implementation of OvLocale: plain names, modifiers and encodings. It is filled while
-// it is built and never changes once handed out.
+// it is built. After that only publish() changes it, by switching to new immutable data, so a
+// reference taken earlier sees the new setting and a reader never sees half of one.
 class FL_I18N_API OvLocaleImpl : public OvLocale {
 public:
     static constexpr int category_count = 6;
@@ -37,24 +39,24 @@ public:
     // Messages never carry "en_US_POSIX": catalogs have no such locale, so it is stored as
     // "en_US". The modifier is given without its leading "@", which getModifier adds back.
     void set_category(std::string const& name, std::string const& modifier, LcCategory category);
-    void set_encoding(std::string const& encoding) { encoding_ = encoding; }
-    void set_terminal_encoding(std::string const& encoding) { terminal_encoding_ = encoding; }
+    void set_encoding(std::string const& encoding);
+    void set_terminal_encoding(std::string const& encoding);
 
-    lcmgmt::Lcdb const* database() const noexcept { return database_; }
-    std::string const& terminal_encoding() const noexcept { return terminal_encoding_; }
+    // Makes this locale read as source does now, database included, for the manager's own
+    // locales at start-up. Readers may still hold the old data, so it is never freed.
+    void publish(OvLocaleImpl const& source);
+
+    lcmgmt::Lcdb const* database() const noexcept;
+    std::string const& terminal_encoding() const noexcept;
 
 private:
-    struct category_entry {
-        std::string name;
-        std::string modifier;
-    };
+    struct data;
 
-    category_entry const& entry(LcCategory category) const;
+    data const& current() const noexcept;
+    // The setters' view: only while the object is being built, before anyone else can read it.
+    data& building() noexcept;
 
-    lcmgmt::Lcdb const* database_;
-    category_entry categories_[category_count];
-    std::string encoding_;
-    std::string terminal_encoding_;
+    std::atomic<data const*> data_;
 };
 
 }  // namespace i18n

@@ -13,6 +13,7 @@
 #include <unicode/ucnv.h>
 
 #include <cstdlib>
+#include <memory>
 
 namespace fl {
 namespace i18n {
@@ -84,13 +85,13 @@ char const* database_failure_warning(std::int32_t code) {
 
 // No database file is a working state: the built-in tables answer, and the failure is only
 // reported.
-void load_locale_database(manager_context& context) {
+void load_locale_database(manager_context& context, Lcdb& database) {
     context.database_file = locate_database_file(context);
     if (context.database_file.empty()) {
         return;
     }
     try {
-        parseLcData(context.database, context.database_file, context.warnings);
+        parseLcData(database, context.database_file, context.warnings);
     } catch (LcRscExceptionBase const& failure) {
         if (char const* warning = database_failure_warning(failure.getCode())) {
             context.warnings.push_back(warning);
@@ -100,22 +101,27 @@ void load_locale_database(manager_context& context) {
     }
 }
 
-void read_system_setting(manager_context& context) {
-    if (context.setting_reader == nullptr) {
-        context.setting_reader =
-            new system_setting_reader(context.database, *context.system_locale, context.status,
-                                      context.status_message, context.setting);
-    }
+// The reader fills a locale nobody else sees yet; it and the reader stay for the life of the
+// process, like everything the manager makes.
+OvLocaleImpl const& read_system_setting(manager_context& context, Lcdb const& database) {
+    auto* system = new OvLocaleImpl(&database);
+    context.setting_reader = new system_setting_reader(database, *system, context.status,
+                                                       context.status_message, context.setting);
     context.setting_reader->read();
+    return *system;
 }
 
-// The user locale is the system one, except that the library's own numbers never depend on it.
-void make_user_locale_global(manager_context& context) {
+// Readers hold the manager's locales without a lock, so they switch to the new setting in place
+// rather than being replaced. The user locale is the system one, except that the library's own
+// numbers never depend on it.
+void make_user_locale_global(manager_context& context, OvLocaleImpl const& system) {
     if (context.setting.l10n_control == l10n_on) {
         context.global_locale_locked = true;
     }
-    context.user_locale = std::make_unique<OvLocaleImpl>(&context.database, *context.system_locale);
-    context.user_locale->set_category("en_US_POSIX", "", OvLocale::numeric);
+    OvLocaleImpl user(system.database(), system);
+    user.set_category("en_US_POSIX", "", OvLocale::numeric);
+    context.system_locale->publish(system);
+    context.user_locale->publish(user);
     context.global_locale.store(context.user_locale.get());
     if (context.setting.l10n_control == l10n_off) {
         switch_to_english_messages(context);
@@ -133,9 +139,13 @@ void tell_icu(OvLocale const& global) {
 
 void run_startup_sequence(manager_context& context) {
     read_override_variables(context.setting);
-    load_locale_database(context);
-    read_system_setting(context);
-    make_user_locale_global(context);
+    auto lookup = std::make_unique<lookup_data>();
+    lookup->use_utf8_as_default = context.setting.use_utf8_as_default;
+    load_locale_database(context, lookup->database);
+    OvLocaleImpl const& system = read_system_setting(context, lookup->database);
+    // Published before the locales that point at it; never freed.
+    context.publish(lookup.release());
+    make_user_locale_global(context, system);
     apply_locale_setting(context.setting);
     tell_icu(*context.global_locale.load());
 }

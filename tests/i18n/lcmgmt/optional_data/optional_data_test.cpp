@@ -17,7 +17,7 @@ std::unique_ptr<OvLocaleImpl> make_locale(std::string const& time, std::string c
                                           std::string const& encoding,
                                           std::string const& terminal) {
     auto locale =
-        std::make_unique<OvLocaleImpl>(&fl::i18n::lcmgmt::manager_context::instance().database);
+        std::make_unique<OvLocaleImpl>(&fl::i18n::lcmgmt::manager_context::instance().database());
     for (int c = 0; c < OvLocaleImpl::category_count; ++c) {
         auto const category = static_cast<OvLocale::LcCategory>(c);
         locale->set_category(category == OvLocale::time ? time : others, "", category);
