@@ -35,11 +35,7 @@ int run_locale(std::ostream& out, bool json) {
         describe_icu_defaults("icu"),
         describe_javavm_context("javavm"),
     };
-    if (json) {
-        r.print_json(out);
-    } else {
-        r.print_text(out);
-    }
+    r.print(out, json);
     return 0;
 }
 

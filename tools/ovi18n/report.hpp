@@ -39,6 +39,7 @@ struct report {
 
     void print_text(std::ostream& out) const;
     void print_json(std::ostream& out) const;
+    void print(std::ostream& out, bool json) const { json ? print_json(out) : print_text(out); }
 };
 
 }  // namespace ovi18n_tool

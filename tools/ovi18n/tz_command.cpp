@@ -70,11 +70,7 @@ int run_tz(std::vector<std::string> const& args, std::ostream& out) {
         report::text("utc_offset", offset_text(offset)),
         report::literal("utc_offset_seconds", std::to_string(offset)),
     };
-    if (json) {
-        r.print_json(out);
-    } else {
-        r.print_text(out);
-    }
+    r.print(out, json);
     return 0;
 }
 
