@@ -1,5 +1,6 @@
 #include "commands.hpp"
 #include "json_string.hpp"
+#include "usage_error.hpp"
 
 #include <fl/filesystem.hpp>
 #include <fl/i18n.hpp>
@@ -116,11 +117,6 @@ void print_json(std::ostream& out, std::vector<listed_entry> const& entries) {
         separator = ",\n";
     }
     out << "\n]\n";
-}
-
-int usage_error(std::string const& what) {
-    std::cerr << "ovi18n: " << what << " (try 'ovi18n --help')\n";
-    return 2;
 }
 
 int list_directory(std::ostream& out, std::ostream& err, std::string const& path,

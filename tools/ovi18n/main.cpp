@@ -1,4 +1,5 @@
 #include "commands.hpp"
+#include "usage_error.hpp"
 
 #include <fl/i18n.hpp>
 
@@ -8,6 +9,8 @@
 #include <vector>
 
 namespace {
+
+using ovi18n_tool::usage_error;
 
 void print_help(std::ostream& out) {
     out << "usage: ovi18n <command> [options]\n"
@@ -25,11 +28,6 @@ void print_help(std::ostream& out) {
            "options:\n"
            "  --version         print the library's version, path and build date\n"
            "  --help            print this help\n";
-}
-
-int usage_error(std::string const& what) {
-    std::cerr << "ovi18n: " << what << " (try 'ovi18n --help')\n";
-    return 2;
 }
 
 int run(std::vector<std::string> const& args) {
