@@ -51,7 +51,6 @@ bool directory_entry_context::read_raw() {
         }
         return false;
     }
-    name = from_filesystem(entry->d_name);
     return true;
 }
 
@@ -95,6 +94,7 @@ bool directory_entry_with_wc_support_context::read_next() {
         if (!read_raw()) {
             return false;
         }
+        name = from_filesystem(entry->d_name);
         std::int32_t status = 0;
         if (prefilter.may_match(name) && matcher.match(name, status)) {
             return true;

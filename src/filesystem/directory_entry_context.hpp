@@ -39,7 +39,9 @@ public:
 protected:
     // Throws with reported_path when opendir fails.
     void open(std::string const& reported_path);
-    // readdir_r into the record and decodes the name; false at the end, after closing.
+    // readdir_r into the record; false at the end, after closing. The name stays in bytes: the
+    // entry's accessors decode it anew, so only a pattern, which matches on the text, needs it
+    // decoded here, and a plain listing saves one decoding per entry.
     bool read_raw();
     // Where a failing read is reported; built only when a read fails.
     virtual std::string read_error_path() const { return native_directory; }
