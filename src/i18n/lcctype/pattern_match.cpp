@@ -39,20 +39,23 @@ pattern_match::pattern_match(ustring const& pattern, character_handling_mode_con
         fl::detail::throw_exception(RegexInvalidArgument());
     }
     // The expression's own source, metacharacters included, takes the texts' normal form.
-    auto working = std::make_unique<lcctype::detail::pattern_text>();
+    lcctype::detail::pattern_text working;
     if (normalization != 0) {
-        normalize_or_throw(*working, pattern, normalization);
+        normalize_or_throw(working, pattern, normalization);
     } else {
-        working->borrow(pattern);
+        working.borrow(pattern);
     }
-    if (working->length() == 0) {
+    if (working.length() == 0) {
         fl::detail::throw_exception(RegexInvalidArgument());
     }
-    URegularExpression* expression = lcctype::detail::open_expression(*working, mode);
-    if (expression == nullptr) {
+    // The holder exists before ICU opens the expression, so nothing can leak it.
+    auto owner = std::make_unique<pattern_holder>(nullptr);
+    owner->expression = lcctype::detail::open_expression(working, mode);
+    if (owner->expression == nullptr) {
         fl::detail::throw_exception(RegexFailedObjectCreation());
     }
-    holder = new pattern_holder(expression);
+    owner->ready = true;
+    holder = owner.release();
 }
 
 pattern_match::~pattern_match() {
