@@ -6,6 +6,8 @@
 
 #include <unicode/uchar.h>
 
+#include <cstdint>
+
 namespace fl {
 namespace i18n {
 namespace facet {
@@ -26,6 +28,21 @@ class_bit const class_bits[] = {
     {base::upper, pc::upper}, {base::lower, pc::lower},   {base::alpha, pc::alpha},
     {base::digit, pc::digit}, {base::xdigit, pc::xdigit}, {base::space, pc::space},
     {base::print, pc::print}, {base::cntrl, pc::cntrl},   {base::punct, pc::punct},
+};
+
+struct class_categories {
+    std_mask standard;
+    std::uint32_t categories;
+};
+
+// The classes of the range mask that are sets of general categories, as ICU defines them.
+class_categories const range_classes[] = {
+    {base::alpha, lcctype::detail::u_isalpha_categories},
+    {base::cntrl, lcctype::detail::u_iscntrl_categories},
+    {base::digit, lcctype::detail::u_isdigit_categories},
+    {base::punct, lcctype::detail::punct_categories},
+    {base::lower, lcctype::detail::u_islower_categories},
+    {base::upper, lcctype::detail::u_isupper_categories},
 };
 
 }  // namespace
@@ -50,31 +67,21 @@ std_mask to_std_mask(unsigned int posix) {
     return m;
 }
 
+// One u_charType gives every class that ICU defines by category; only white space and the
+// hexadecimal digits need calls of their own.
 std_mask range_mask_of(char32_t c) {
-    UChar32 const u = static_cast<UChar32>(c);
+    namespace lc = lcctype::detail;
+    std::uint32_t const category = lc::category_of(c);
     std_mask m = 0;
-    if (u_isalpha(u) == 1) {
-        m |= base::alpha;
+    for (auto const& by_category : range_classes) {
+        if ((category & by_category.categories) != 0) {
+            m |= by_category.standard;
+        }
     }
-    if (u_iscntrl(u) == 1) {
-        m |= base::cntrl;
-    }
-    if (u_isUWhiteSpace(u) == 1) {
+    if (u_isUWhiteSpace(static_cast<UChar32>(c)) == 1) {
         m |= base::space;
     }
-    if (u_isdigit(u) == 1) {
-        m |= base::digit;
-    }
-    if (lcctype::detail::in_categories(c, lcctype::detail::punct_categories)) {
-        m |= base::punct;
-    }
-    if (u_islower(u) == 1) {
-        m |= base::lower;
-    }
-    if (u_isupper(u) == 1) {
-        m |= base::upper;
-    }
-    if (u_digit(u, 16) >= 0) {
+    if (lc::is_hex_digit(c, category)) {
         m |= base::xdigit;
     }
     return m;

@@ -7,8 +7,6 @@
 #include "i18n/lcctype/posix_class_test.hpp"
 #include "i18n/lcctype/scan_walk.hpp"
 
-#include <boost/bind/bind.hpp>
-
 #include <unicode/uchar.h>
 #include <unicode/utf16.h>
 
@@ -69,16 +67,16 @@ char16_t const* ctype_facet<char16_t>::do_is(char16_t const* lo, char16_t const*
 // must never do. This is a deliberate departure from scan, made for memory safety.
 char16_t const* ctype_facet<char16_t>::do_scan_is(mask m, char16_t const* lo,
                                                   char16_t const* hi) const {
-    return lcctype::detail::scan_walk<true>(
-        lo, hi,
-        boost::bind(&lcctype::detail::in_posix_classes, to_posix_mask(m), boost::placeholders::_1));
+    lcctype::detail::posix_class_set const classes(to_posix_mask(m));
+    return lcctype::detail::scan_walk<true>(lo, hi,
+                                            [&classes](char32_t c) { return classes.contains(c); });
 }
 
 char16_t const* ctype_facet<char16_t>::do_scan_not(mask m, char16_t const* lo,
                                                    char16_t const* hi) const {
-    return lcctype::detail::scan_walk<true>(lo, hi,
-                                            boost::bind(&lcctype::detail::not_in_posix_classes,
-                                                        to_posix_mask(m), boost::placeholders::_1));
+    lcctype::detail::posix_class_set const classes(to_posix_mask(m));
+    return lcctype::detail::scan_walk<true>(
+        lo, hi, [&classes](char32_t c) { return !classes.contains(c); });
 }
 
 char16_t ctype_facet<char16_t>::do_toupper(char16_t c) const {

@@ -2,10 +2,6 @@
 
 #include <fl/i18n/lcctype/posix_class.hpp>
 
-#include "i18n/lcctype/general_category.hpp"
-
-#include <unicode/uchar.h>
-
 namespace fl {
 namespace i18n {
 namespace lcctype {
@@ -17,24 +13,26 @@ inline bool has_all(unsigned int mask, unsigned int bits) {
     return (mask & bits) == bits;
 }
 
-}  // namespace
-
-// Each bit is tested by itself, so the mask is a union of classes. The compounds graph and alnum
-// are checked before their single parts; the order matters for cost only.
-bool in_posix_classes(unsigned int mask, char32_t c) {
-    using namespace posix_class;
-    UChar32 const u = static_cast<UChar32>(c);
-    return ((mask & cntrl) && u_iscntrl(u) == 1) || ((mask & print) && u_isprint(u) == 1) ||
-           (has_all(mask, graph) && u_isgraph(u) == 1) ||
-           ((mask & punct) && in_categories(c, punct_categories)) ||
-           ((mask & space) && u_isUWhiteSpace(u) == 1) ||
-           (has_all(mask, alnum) && u_isalnum(u) == 1) || ((mask & alpha) && u_isalpha(u) == 1) ||
-           ((mask & xdigit) && u_digit(u, 16) >= 0) || ((mask & digit) && u_isdigit(u) == 1) ||
-           ((mask & lower) && u_islower(u) == 1) || ((mask & upper) && u_isupper(u) == 1);
+inline std::uint32_t categories_if(bool wanted, std::uint32_t categories) {
+    return wanted ? categories : 0;
 }
 
-bool not_in_posix_classes(unsigned int mask, char32_t c) {
-    return !in_posix_classes(mask, c);
+}  // namespace
+
+posix_class_set::posix_class_set(unsigned int mask) noexcept {
+    using namespace posix_class;
+    before_space_ = categories_if(mask & cntrl, u_iscntrl_categories) |
+                    categories_if(mask & print, u_isprint_categories) |
+                    categories_if(has_all(mask, graph), u_isgraph_categories) |
+                    categories_if(mask & punct, punct_categories);
+    before_xdigit_ = categories_if(has_all(mask, alnum), u_isalnum_categories) |
+                     categories_if(mask & alpha, u_isalpha_categories);
+    after_xdigit_ = categories_if(mask & digit, u_isdigit_categories) |
+                    categories_if(mask & lower, u_islower_categories) |
+                    categories_if(mask & upper, u_isupper_categories);
+    space_ = (mask & space) != 0;
+    xdigit_ = (mask & xdigit) != 0;
+    needs_category_ = xdigit_ || (before_space_ | before_xdigit_ | after_xdigit_) != 0;
 }
 
 }  // namespace detail

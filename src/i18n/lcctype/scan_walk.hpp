@@ -1,8 +1,6 @@
 #ifndef FL_I18N_LCCTYPE_SCAN_WALK_HPP
 #define FL_I18N_LCCTYPE_SCAN_WALK_HPP
 
-#include <boost/function.hpp>
-
 #include <unicode/utf16.h>
 
 #include <type_traits>
@@ -11,8 +9,6 @@ namespace fl {
 namespace i18n {
 namespace lcctype {
 namespace detail {
-
-using char_predicate = boost::function<bool(char32_t)>;
 
 // Only pointers can be null; string iterators always stand somewhere.
 template <class Iterator>
@@ -33,8 +29,11 @@ bool is_null_position(Iterator const& position) {
 // outside [first, last) and never returns beyond last; wherever the plain walk stays inside the
 // range, both give the same answer. The ctype facet needs this: a standard facet must not read
 // outside the range it is given, so it departs from the plain walk there for memory safety.
-template <bool bounded = false, class Iterator>
-Iterator scan_walk(Iterator first, Iterator last, char_predicate const& hit) {
+//
+// The class test is a template argument, so that it is inlined into the loop: the walk costs
+// little more than the one classification per character that any hand-written loop pays.
+template <bool bounded = false, class Iterator, class ClassTest>
+Iterator scan_walk(Iterator first, Iterator last, ClassTest const& hit) {
     if (is_null_position(first) || is_null_position(last) || first == last) {
         return last;
     }
