@@ -4,8 +4,8 @@
 
 #include "i18n/facet/class_mask.hpp"
 #include "i18n/facet/std_char16_support.hpp"
+#include "i18n/lcctype/posix_class_scan.hpp"
 #include "i18n/lcctype/posix_class_test.hpp"
-#include "i18n/lcctype/scan_walk.hpp"
 
 #include <unicode/uchar.h>
 #include <unicode/utf16.h>
@@ -74,9 +74,7 @@ char16_t const* ctype_facet<char16_t>::do_scan_is(mask m, char16_t const* lo,
 
 char16_t const* ctype_facet<char16_t>::do_scan_not(mask m, char16_t const* lo,
                                                    char16_t const* hi) const {
-    lcctype::detail::posix_class_set const classes(to_posix_mask(m));
-    return lcctype::detail::scan_walk<true>(
-        lo, hi, [&classes](char32_t c) { return !classes.contains(c); });
+    return lcctype::detail::scan_posix_classes<false, true>(to_posix_mask(m), lo, hi);
 }
 
 char16_t ctype_facet<char16_t>::do_toupper(char16_t c) const {

@@ -39,6 +39,11 @@ public:
         return (category & after_xdigit_) != 0;
     }
 
+    // Without white space and the hexadecimal digits, every check of the mask is a test of the
+    // category, and all of them together are one test against the union of their sets.
+    bool by_category_only() const { return !space_ && !xdigit_; }
+    std::uint32_t categories() const { return before_space_ | before_xdigit_ | after_xdigit_; }
+
 private:
     std::uint32_t before_space_ = 0;   // control, print, graph, punct
     std::uint32_t before_xdigit_ = 0;  // alnum, alpha
