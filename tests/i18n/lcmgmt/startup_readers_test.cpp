@@ -2,7 +2,10 @@
 #include <fl/i18n/codecvt/standard_encoding_name.hpp>
 #include <fl/i18n/codecvt/string_conversion.hpp>
 #include <fl/i18n/lcmgmt/manager.hpp>
+#include <fl/i18n/lcmgmt/ov_lc_util.hpp>
 #include <fl/i18n/lcmgmt/ov_locale.hpp>
+#include <fl/i18n/lcmgmt/startup_report.hpp>
+#include <fl/i18n/lcmgmt/system_setting.hpp>
 
 #include <gtest/gtest.h>
 
@@ -27,6 +30,16 @@ void read_everything() {
     EXPECT_EQ(OvLocale::createLocale("de_DE.ISO-8859-15")->getEncoding(), "ISO-8859-15");
     EXPECT_EQ(fl::i18n::get_standard_encoding_name("utf8"), "UTF-8");
     EXPECT_EQ(fl::i18n::to_ustring("abc"), u"abc");
+    // Start-up's own report: before it ran, or complete.
+    using fl::i18n::OvLcUtil;
+    EXPECT_NE(OvLcUtil::getLcStatus(), 1);
+    std::string const codeset = OvLcUtil::getLocaleInformation().at("XpgEncoding");
+    EXPECT_TRUE(codeset.empty() || codeset == "UTF-8") << codeset;
+    EXPECT_FALSE(OvLcUtil::getInitStatusMsg().empty());
+    EXPECT_TRUE(OvLcUtil::getInitWarningMsg().empty());
+    EXPECT_TRUE(fl::i18n::get_startup_warnings().empty());
+    auto const original = fl::i18n::lcmgmt::get_original_user_locale_setting();
+    EXPECT_TRUE(original.encoding.empty() || original.encoding == "UTF-8") << original.encoding;
 }
 
 TEST(StartUpReaders, SeeOneSettingOrTheOtherWhileStartUpRuns) {
