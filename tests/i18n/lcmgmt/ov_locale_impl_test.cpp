@@ -154,6 +154,7 @@ TEST(LocaleNames, LanguageAndRegionComeFromTheCategoryName) {
     expect_parts("", "", "");
 }
 
+// Optional data types have the same two unnamed values, refused as a bad argument.
 TEST(LocaleNames, OutOfRangeCategoryIsDataNotFound) {
     OvLocaleImpl locale(nullptr);
     // 6 and 7 are values of the enumeration without a name; anything further is undefined.
@@ -164,6 +165,8 @@ TEST(LocaleNames, OutOfRangeCategoryIsDataNotFound) {
         EXPECT_THROW(locale.getRegion(category(c)), OvLcDataNotFound);
         EXPECT_THROW(locale.getModifier(category(c)), OvLcDataNotFound);
         EXPECT_THROW(locale.set_category("de_DE", "", category(c)), OvLcDataNotFound);
+        EXPECT_THROW(locale.getOptData(static_cast<OvLcOptDataCtx::LcOptDataType>(c)),
+                     fl::i18n::OvLcInvLcArgument);
     }
 }
 
