@@ -1,6 +1,7 @@
 // Readers never lock, so start-up must not change anything they may already hold.
 #include <fl/i18n/codecvt/standard_encoding_name.hpp>
 #include <fl/i18n/codecvt/string_conversion.hpp>
+#include <fl/i18n/lcmgmt/fallback_locales.hpp>
 #include <fl/i18n/lcmgmt/manager.hpp>
 #include <fl/i18n/lcmgmt/ov_lc_util.hpp>
 #include <fl/i18n/lcmgmt/ov_locale.hpp>
@@ -28,6 +29,10 @@ void read_everything() {
               encoding);
     EXPECT_FALSE(OvLocale::global().getLocaleName(OvLocale::messages).empty());
     EXPECT_EQ(OvLocale::createLocale("de_DE.ISO-8859-15")->getEncoding(), "ISO-8859-15");
+    auto const serbian = OvLocale::createLocale("sr-Latn_RS.UTF-8@x");
+    EXPECT_EQ(serbian->getLocaleName(OvLocale::ctype), "sr-Latn_RS");
+    EXPECT_EQ(fl::i18n::get_fallback_locales(*serbian).size(), 3u);
+    EXPECT_TRUE(fl::i18n::lcmgmt::is_supported_encoding("cp1252"));
     EXPECT_EQ(fl::i18n::get_standard_encoding_name("utf8"), "UTF-8");
     EXPECT_EQ(fl::i18n::to_ustring("abc"), u"abc");
     // Start-up's own report: before it ran, or complete.
@@ -50,6 +55,10 @@ TEST(StartUpReaders, SeeOneSettingOrTheOtherWhileStartUpRuns) {
     for (int i = 0; i < 3; ++i) {
         readers.emplace_back([&] {
             for (++started; !done;) {
+                read_everything();
+            }
+            // And with one another once start-up is over.
+            for (int round = 0; round < 50; ++round) {
                 read_everything();
             }
         });
