@@ -1,6 +1,5 @@
 #include <fl/filesystem.hpp>
 #include <fl/i18n/lcctype/pattern_match.hpp>
-#include <fl/i18n/lcmgmt.hpp>
 
 #include "filesystem/wildcard_prefilter.hpp"
 
@@ -15,24 +14,13 @@
 
 #include "filesystem/temp_directory_fixture.hpp"
 
-// Runs under a UTF-8 LANG with the locales the suite builds, so that names with accents and
-// Japanese reach the disk as UTF-8 and a name of invalid bytes stays invalid.
-
+// Part of utf8_file_names_test, whose start-up in a UTF-8 locale makes names with accents and
+// Japanese reach the disk as UTF-8, while a name of invalid bytes stays invalid.
 namespace {
 
 namespace fs = fl::filesystem;
 using fl::i18n::ustring;
 using fstest::u;
-
-class utf8_setting : public ::testing::Environment {
-public:
-    void SetUp() override {
-        fl::i18n::initialize();
-        ASSERT_EQ(fl::i18n::OvLocale::global().getEncoding(), "UTF-8");
-    }
-};
-
-::testing::Environment* const setting = ::testing::AddGlobalTestEnvironment(new utf8_setting);
 
 using name_set = std::set<ustring>;
 

@@ -1,5 +1,7 @@
 #include "i18n/lcmgmt/locale_env_apply.hpp"
 
+#include "platform/c_library_locale.hpp"
+
 #include <clocale>
 #include <cstdlib>
 
@@ -20,7 +22,7 @@ void install_locale_env(locale_env_snapshot const& setting) {
 
 void apply_locale_setting(locale_env_snapshot const& setting) {
     install_locale_env(setting);
-    std::setlocale(LC_ALL, "");
+    detail::platform::follow_environment_locale(LC_ALL);
 }
 
 void switch_lc_messages(locale_env_snapshot& setting) {
@@ -38,7 +40,7 @@ void switch_lc_messages(locale_env_snapshot& setting) {
         messages = setting.category_names[lc_messages_index];
         ::setenv("LC_MESSAGES", messages.c_str(), 1);
     }
-    std::setlocale(LC_MESSAGES, "");
+    detail::platform::follow_environment_locale(LC_MESSAGES);
 }
 
 }  // namespace lcmgmt

@@ -36,7 +36,7 @@ thread_local bool creating_manager = false;
 }  // namespace
 
 // The built-in tables answer until start-up publishes the ones extended by the database file.
-manager_context::manager_context() : lookup_(new lookup_data) {
+manager_context::manager_context() : lookup_(new lookup_data), outcome_(new startup_outcome) {
     static char const* const category_names[] = {"ctype",   "collate",  "time",
                                                  "numeric", "monetary", "messages"};
     for (int c = 0; c < OvLocaleImpl::category_count; ++c) {
@@ -74,6 +74,13 @@ void manager_context::apply_default_setting() {
     ucnv_setDefaultName("US-ASCII");
     UErrorCode ignored = U_ZERO_ERROR;
     icu::Locale::setDefault(icu::Locale("en_US_POSIX"), ignored);
+}
+
+void manager_context::publish_outcome() {
+    auto* fresh = new startup_outcome{status,   status_message,
+                                      warnings, database_file,
+                                      setting,  outcome_.load(std::memory_order_relaxed)};
+    outcome_.store(fresh, std::memory_order_release);
 }
 
 manager_context& manager_context::instance() {

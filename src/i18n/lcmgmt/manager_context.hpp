@@ -33,6 +33,18 @@ struct lookup_data {
     lookup_data const* replaced = nullptr;
 };
 
+// What start-up tells about itself, read without a lock. Start-up works on the manager's own
+// fields under the mutex and publishes a copy when it ends; the one replaced is never freed.
+struct startup_outcome {
+    std::int32_t status = status_not_initialized;
+    std::string status_message;
+    std::vector<std::string> warnings;
+    std::string database_file;
+    // The environment and C library as start-up found them.
+    locale_env_snapshot setting;
+    startup_outcome const* replaced = nullptr;
+};
+
 // The process-wide locale state. Created on first touch and never destroyed, so references to
 // its locales stay valid for the life of the process, even during static destruction.
 class manager_context {
@@ -41,6 +53,7 @@ public:
     static manager_context& instance();
 
     bool initialized = false;
+    // Start-up's working state, under the mutex; readers use outcome().
     std::int32_t status = status_not_initialized;
     std::string status_message;
     locale_env_snapshot setting;
@@ -61,6 +74,12 @@ public:
     // The database file start-up read (or tried to), kept for diagnostics.
     std::string database_file;
 
+    startup_outcome const& outcome() const noexcept {
+        return *outcome_.load(std::memory_order_acquire);
+    }
+    // Start-up only, under the mutex: copies the working state above.
+    void publish_outcome();
+
     lookup_data const& lookup() const noexcept { return *lookup_.load(std::memory_order_acquire); }
     Lcdb const& database() const noexcept { return lookup().database; }
     // Start-up only, under the mutex.
@@ -78,6 +97,7 @@ private:
     void apply_default_setting();
 
     std::atomic<lookup_data const*> lookup_;
+    std::atomic<startup_outcome const*> outcome_;
 };
 
 // Gives messages in English from here on; the caller holds the mutex.

@@ -8,7 +8,7 @@ namespace i18n {
 namespace lcmgmt {
 
 system_setting_context get_original_user_locale_setting() {
-    locale_env_snapshot const& setting = manager_context::instance().setting;
+    locale_env_snapshot const& setting = manager_context::instance().outcome().setting;
     system_setting_context result;
     result.encoding = setting.xpg_encoding;
     for (int i = 0; i < posix_category_count; ++i) {

@@ -15,7 +15,7 @@ char const* const event_words[lcmgmt::posix_category_count] = {
 }  // namespace
 
 std::int32_t OvLcUtil::getLcStatus() {
-    return manager_context::instance().status;
+    return manager_context::instance().outcome().status;
 }
 
 std::string OvLcUtil::getInitStatusMsg() {
@@ -34,11 +34,11 @@ std::string OvLcUtil::getInitStatusMsg() {
 }
 
 std::string OvLcUtil::getInitWarningMsg() {
-    return manager_context::instance().status_message;
+    return manager_context::instance().outcome().status_message;
 }
 
 std::map<std::string, std::string> OvLcUtil::getLocaleInformation() {
-    lcmgmt::locale_env_snapshot const& s = manager_context::instance().setting;
+    lcmgmt::locale_env_snapshot const& s = manager_context::instance().outcome().setting;
     std::map<std::string, std::string> info;
     for (int i = 0; i < lcmgmt::posix_category_count; ++i) {
         std::string const word = event_words[i];

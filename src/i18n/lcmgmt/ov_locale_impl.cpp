@@ -120,15 +120,30 @@ void OvLocaleImpl::set_terminal_encoding(std::string const& encoding) {
     building().terminal_encoding = encoding;
 }
 
+// One load of each side's data, so a comparison made while start-up publishes sees one state
+// per side. The stored fields compare as the accessors would: a modifier gets its "@" the same
+// way on both sides.
 bool OvLocaleImpl::operator==(OvLocale const& other) const {
+    data const& mine = current();
+    if (auto const* impl = dynamic_cast<OvLocaleImpl const*>(&other)) {
+        data const& theirs = impl->current();
+        for (int c = 0; c < category_count; ++c) {
+            if (mine.categories[c].name != theirs.categories[c].name ||
+                mine.categories[c].modifier != theirs.categories[c].modifier) {
+                return false;
+            }
+        }
+        return mine.encoding == theirs.encoding;
+    }
     for (int c = 0; c < category_count; ++c) {
         auto const category = static_cast<LcCategory>(c);
-        if (getLocaleName(category) != other.getLocaleName(category) ||
-            getModifier(category) != other.getModifier(category)) {
+        std::string const& modifier = mine.categories[c].modifier;
+        if (mine.categories[c].name != other.getLocaleName(category) ||
+            (modifier.empty() ? modifier : "@" + modifier) != other.getModifier(category)) {
             return false;
         }
     }
-    return getEncoding() == other.getEncoding();
+    return mine.encoding == other.getEncoding();
 }
 
 bool OvLocaleImpl::operator!=(OvLocale const& other) const {

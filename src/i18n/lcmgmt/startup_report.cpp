@@ -2,22 +2,15 @@
 
 #include "i18n/lcmgmt/manager_context.hpp"
 
-#include <boost/thread/locks.hpp>
-
 namespace fl {
 namespace i18n {
 
-// Start-up writes both under the mutex; taking it here keeps a reader from a racing thread safe.
 std::string get_locale_database_file() {
-    lcmgmt::manager_context& context = lcmgmt::manager_context::instance();
-    boost::lock_guard<boost::mutex> guard(context.mutex);
-    return context.database_file;
+    return lcmgmt::manager_context::instance().outcome().database_file;
 }
 
 std::vector<std::string> get_startup_warnings() {
-    lcmgmt::manager_context& context = lcmgmt::manager_context::instance();
-    boost::lock_guard<boost::mutex> guard(context.mutex);
-    return context.warnings;
+    return lcmgmt::manager_context::instance().outcome().warnings;
 }
 
 }  // namespace i18n

@@ -2,9 +2,8 @@
 
 #include "i18n/lcmgmt/encoding_standard_name.hpp"
 #include "i18n/lcmgmt/lc_status.hpp"
+#include "platform/c_library_locale.hpp"
 
-#include <langinfo.h>
-#include <clocale>
 #include <cstdlib>
 
 namespace fl {
@@ -48,16 +47,16 @@ void system_setting_reader::read() {
 
 void system_setting_reader::read_c_library() {
     for (int i = 0; i < posix_category_count; ++i) {
-        setting_.initial_xpg[i] = text_or_empty(std::setlocale(posix_categories[i], nullptr));
+        setting_.initial_xpg[i] = detail::platform::current_c_locale(posix_categories[i]);
     }
     for (int i = 0; i < posix_category_count; ++i) {
-        std::setlocale(posix_categories[i], "");
-        setting_.xpg[i] = text_or_empty(std::setlocale(posix_categories[i], nullptr));
+        detail::platform::follow_environment_locale(posix_categories[i]);
+        setting_.xpg[i] = detail::platform::current_c_locale(posix_categories[i]);
     }
     for (int i = 0; i < locale_env_var_count; ++i) {
         setting_.env[i] = text_or_empty(std::getenv(locale_env_var_names[i]));
     }
-    setting_.xpg_encoding = text_or_empty(nl_langinfo(CODESET));
+    setting_.xpg_encoding = detail::platform::current_codeset();
 }
 
 void system_setting_reader::resolve_encodings(bool valid) {

@@ -21,18 +21,17 @@ using fl::i18n::OvLocale;
 
 constexpr int thread_count = 8;
 
-// Starts every body at once, so the first touches really overlap.
-void run_together(std::vector<std::function<void()>> const& bodies) {
-    std::atomic<int> waiting{static_cast<int>(bodies.size())};
+// Runs body(i) on thread_count threads started at once, so the first touches really overlap.
+void run_together(std::function<void(int)> const& body) {
+    std::atomic<int> waiting{thread_count};
     std::vector<std::thread> threads;
-    threads.reserve(bodies.size());
-    for (auto const& body : bodies) {
-        threads.emplace_back([&waiting, &body] {
+    for (int i = 0; i < thread_count; ++i) {
+        threads.emplace_back([&waiting, &body, i] {
             waiting.fetch_sub(1);
             while (waiting.load() > 0) {
                 std::this_thread::yield();
             }
-            body();
+            body(i);
         });
     }
     for (std::thread& t : threads) {
@@ -54,11 +53,7 @@ observation observe() {
 
 TEST(ManagerThreads, FirstTouchCreatesOneManager) {
     std::vector<observation> seen(thread_count);
-    std::vector<std::function<void()>> bodies(thread_count);
-    for (int i = 0; i < thread_count; ++i) {
-        bodies[i] = [&seen, i] { seen[i] = observe(); };
-    }
-    run_together(bodies);
+    run_together([&seen](int i) { seen[i] = observe(); });
     for (observation const& o : seen) {
         EXPECT_TRUE(o == seen[0]);
     }
@@ -69,18 +64,14 @@ TEST(ManagerThreads, FirstTouchCreatesOneManager) {
 
 TEST(ManagerThreads, StartUpRunsOnceWhoeverAsks) {
     std::vector<observation> seen(thread_count);
-    std::vector<std::function<void()>> bodies(thread_count);
-    for (int i = 0; i < thread_count; ++i) {
-        bodies[i] = [&seen, i] {
-            if (i % 2 == 0) {
-                fl::i18n::initialize();
-            } else {
-                fl::i18n::initLcMgmtSystem();
-            }
-            seen[i] = observe();
-        };
-    }
-    run_together(bodies);
+    run_together([&seen](int i) {
+        if (i % 2 == 0) {
+            fl::i18n::initialize();
+        } else {
+            fl::i18n::initLcMgmtSystem();
+        }
+        seen[i] = observe();
+    });
     for (observation const& o : seen) {
         EXPECT_TRUE(o == seen[0]);
     }
@@ -94,26 +85,21 @@ TEST(ManagerThreads, OneSwitchToEnglishWhileOthersRead) {
     ASSERT_EQ(OvLocale::global().getLocaleName(OvLocale::messages), "de_DE");
     auto const english_request = OvLocale::createLocale("en_US");
     std::vector<std::set<std::string>> seen_messages(thread_count);
-    std::vector<std::function<void()>> bodies(thread_count);
-    for (int i = 0; i < thread_count; ++i) {
-        bodies[i] = [&, i] {
-            switch (i % 4) {
-                case 0:
-                    fl::i18n::disable_l10n_resource();
-                    break;
-                case 1:
-                    fl::i18n::change_global_locale(*english_request);
-                    break;
-                default:
-                    for (int round = 0; round < 200; ++round) {
-                        seen_messages[i].insert(
-                            OvLocale::global().getLocaleName(OvLocale::messages));
-                        fl::i18n::get_l10n_resource_status();
-                    }
-            }
-        };
-    }
-    run_together(bodies);
+    run_together([&](int i) {
+        switch (i % 4) {
+            case 0:
+                fl::i18n::disable_l10n_resource();
+                break;
+            case 1:
+                fl::i18n::change_global_locale(*english_request);
+                break;
+            default:
+                for (int round = 0; round < 200; ++round) {
+                    seen_messages[i].insert(OvLocale::global().getLocaleName(OvLocale::messages));
+                    fl::i18n::get_l10n_resource_status();
+                }
+        }
+    });
 
     for (auto const& messages : seen_messages) {
         for (std::string const& name : messages) {

@@ -48,8 +48,24 @@ TEST(LocaleNames, OnlyMessagesTurnsPosixIntoEnUs) {
     expect_stored(OvLocale::messages, "en_US_POSIX.UTF-8", "en_US_POSIX.UTF-8");
 }
 
+// Shows a locale only through the interface, so the comparison can't take a short cut.
+struct through_interface : OvLocale {
+    explicit through_interface(OvLocale const& shown) : shown(shown) {}
+    bool operator==(OvLocale const& other) const override { return shown == other; }
+    bool operator!=(OvLocale const& other) const override { return shown != other; }
+    std::string getLocaleName(LcCategory c) const override { return shown.getLocaleName(c); }
+    std::string getLanguage(LcCategory c) const override { return shown.getLanguage(c); }
+    std::string getRegion(LcCategory c) const override { return shown.getRegion(c); }
+    std::string getModifier(LcCategory c) const override { return shown.getModifier(c); }
+    std::string getEncoding() const override { return shown.getEncoding(); }
+    OvLcOptDataCtx::value_type getOptData(OvLcOptDataCtx::LcOptDataType t) const override {
+        return shown.getOptData(t);
+    }
+    OvLocale const& shown;
+};
+
 // Each change is made to a copy of distinct_locale(); equality must notice all but the terminal
-// encoding.
+// encoding, whether or not the other side is an OvLocaleImpl.
 TEST(LocaleEquality, ComparesNamesModifiersAndEncodingOnly) {
     auto const base = distinct_locale();
     auto const expect_after = [&base](std::string const& what, bool equal,
@@ -60,6 +76,7 @@ TEST(LocaleEquality, ComparesNamesModifiersAndEncodingOnly) {
         EXPECT_EQ(*base == changed, equal) << what;
         EXPECT_NE(changed != *base, equal) << what;
         EXPECT_NE(*base != changed, equal) << what;
+        EXPECT_EQ(changed == through_interface(*base), equal) << what;
     };
     for (int c = 0; c < category_count; ++c) {
         expect_after("name " + std::to_string(c), false, [c](OvLocaleImpl& l) {
@@ -137,6 +154,7 @@ TEST(LocaleNames, LanguageAndRegionComeFromTheCategoryName) {
     expect_parts("", "", "");
 }
 
+// Optional data types have the same two unnamed values, refused as a bad argument.
 TEST(LocaleNames, OutOfRangeCategoryIsDataNotFound) {
     OvLocaleImpl locale(nullptr);
     // 6 and 7 are values of the enumeration without a name; anything further is undefined.
@@ -147,6 +165,8 @@ TEST(LocaleNames, OutOfRangeCategoryIsDataNotFound) {
         EXPECT_THROW(locale.getRegion(category(c)), OvLcDataNotFound);
         EXPECT_THROW(locale.getModifier(category(c)), OvLcDataNotFound);
         EXPECT_THROW(locale.set_category("de_DE", "", category(c)), OvLcDataNotFound);
+        EXPECT_THROW(locale.getOptData(static_cast<OvLcOptDataCtx::LcOptDataType>(c)),
+                     fl::i18n::OvLcInvLcArgument);
     }
 }
 

@@ -1,8 +1,12 @@
 // Readers never lock, so start-up must not change anything they may already hold.
 #include <fl/i18n/codecvt/standard_encoding_name.hpp>
 #include <fl/i18n/codecvt/string_conversion.hpp>
+#include <fl/i18n/lcmgmt/fallback_locales.hpp>
 #include <fl/i18n/lcmgmt/manager.hpp>
+#include <fl/i18n/lcmgmt/ov_lc_util.hpp>
 #include <fl/i18n/lcmgmt/ov_locale.hpp>
+#include <fl/i18n/lcmgmt/startup_report.hpp>
+#include <fl/i18n/lcmgmt/system_setting.hpp>
 
 #include <gtest/gtest.h>
 
@@ -25,8 +29,22 @@ void read_everything() {
               encoding);
     EXPECT_FALSE(OvLocale::global().getLocaleName(OvLocale::messages).empty());
     EXPECT_EQ(OvLocale::createLocale("de_DE.ISO-8859-15")->getEncoding(), "ISO-8859-15");
+    auto const serbian = OvLocale::createLocale("sr-Latn_RS.UTF-8@x");
+    EXPECT_EQ(serbian->getLocaleName(OvLocale::ctype), "sr-Latn_RS");
+    EXPECT_EQ(fl::i18n::get_fallback_locales(*serbian).size(), 3u);
+    EXPECT_TRUE(fl::i18n::lcmgmt::is_supported_encoding("cp1252"));
     EXPECT_EQ(fl::i18n::get_standard_encoding_name("utf8"), "UTF-8");
     EXPECT_EQ(fl::i18n::to_ustring("abc"), u"abc");
+    // Start-up's own report: before it ran, or complete.
+    using fl::i18n::OvLcUtil;
+    EXPECT_NE(OvLcUtil::getLcStatus(), 1);
+    std::string const codeset = OvLcUtil::getLocaleInformation().at("XpgEncoding");
+    EXPECT_TRUE(codeset.empty() || codeset == "UTF-8") << codeset;
+    EXPECT_FALSE(OvLcUtil::getInitStatusMsg().empty());
+    EXPECT_TRUE(OvLcUtil::getInitWarningMsg().empty());
+    EXPECT_TRUE(fl::i18n::get_startup_warnings().empty());
+    auto const original = fl::i18n::lcmgmt::get_original_user_locale_setting();
+    EXPECT_TRUE(original.encoding.empty() || original.encoding == "UTF-8") << original.encoding;
 }
 
 TEST(StartUpReaders, SeeOneSettingOrTheOtherWhileStartUpRuns) {
@@ -37,6 +55,10 @@ TEST(StartUpReaders, SeeOneSettingOrTheOtherWhileStartUpRuns) {
     for (int i = 0; i < 3; ++i) {
         readers.emplace_back([&] {
             for (++started; !done;) {
+                read_everything();
+            }
+            // And with one another once start-up is over.
+            for (int round = 0; round < 50; ++round) {
                 read_everything();
             }
         });

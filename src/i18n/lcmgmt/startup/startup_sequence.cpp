@@ -138,6 +138,17 @@ void tell_icu(OvLocale const& global) {
 }  // namespace
 
 void run_startup_sequence(manager_context& context) {
+    // Whatever start-up got to is reported, even when it stops half way.
+    class outcome_publisher {
+    public:
+        explicit outcome_publisher(manager_context& context) : context_(context) {}
+        ~outcome_publisher() { context_.publish_outcome(); }
+        outcome_publisher(outcome_publisher const&) = delete;
+        outcome_publisher& operator=(outcome_publisher const&) = delete;
+
+    private:
+        manager_context& context_;
+    } const publisher(context);
     read_override_variables(context.setting);
     auto lookup = std::make_unique<lookup_data>();
     lookup->use_utf8_as_default = context.setting.use_utf8_as_default;

@@ -204,10 +204,6 @@ TEST(LcdataFile, FailuresNameTheFileInPrintableForm) {
     }
 }
 
-}  // namespace
-
-namespace {
-
 struct handler_failure {};
 
 // Records the elements it sees and throws at the second.

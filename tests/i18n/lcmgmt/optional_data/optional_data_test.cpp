@@ -79,14 +79,4 @@ TEST(OptData, EncodingsForJvmAndTerminal) {
     }
 }
 
-// 6 and 7 are values of the enumeration without a name; anything further is undefined.
-TEST(OptData, UnnamedValueThrows) {
-    for (int bad : {6, 7}) {
-        EXPECT_THROW(
-            OvLocale::classic().getOptData(static_cast<OvLcOptDataCtx::LcOptDataType>(bad)),
-            fl::i18n::OvLcInvLcArgument)
-            << bad;
-    }
-}
-
 }  // namespace
