@@ -4,5 +4,7 @@
 #include <fl/i18n/catalog/catalog_id.hpp>
 #include <fl/i18n/catalog/message_catalog.hpp>
 #include <fl/i18n/catalog/message_id.hpp>
+#include <fl/i18n/catalog/message_id_completion.hpp>
+#include <fl/i18n/catalog/resource_finder.hpp>
 
 #endif

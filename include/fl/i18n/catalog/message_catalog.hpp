@@ -6,12 +6,18 @@
 
 #include <resource_core/resource_core.hpp>
 
+#include <boost/shared_ptr.hpp>
+
 #include <exception>
 #include <string>
 #include <vector>
 
 namespace fl {
 namespace i18n {
+
+class CatalogID;
+class MessageID;
+class OvLocale;
 
 // One loaded catalog: an immutable table from keys to message texts, for one catalog name and
 // the locale of the file it came from. Clients hold it through
@@ -106,6 +112,39 @@ public:
     // count of arguments differs from the count of distinct holes, and MessageFormatIncorrect
     // for a text that is no valid pattern.
     static ustring GetFormattedMessage(ustring const& text, ArgList const& arguments);
+
+    // The catalog service. Catalogs are looked for below each root's "resources" directory,
+    // the locale and its fallbacks tried in turn, and kept loaded once per catalog and locale
+    // until flushed. Every operation may be called from any thread; a cached catalog is
+    // returned without waiting for loads or for other readers.
+
+    // Takes the installation roots; those without a "resources" directory are passed over,
+    // and MessageCatalogIncorrectRoot is thrown when none is left. A later call changes
+    // nothing and answers whether it names exactly the roots in use.
+    static bool MessageCatalogInit(std::vector<ustring> const& roots);
+    static bool MessageCatalogInit(ustring const& root);
+    // All or nothing: one bad path throws MessageCatalogIncorrectRoot and adds none. The
+    // catalogs already cached stay in use.
+    static void set_additional_resource_locations(std::vector<ustring> const& paths);
+    // Removes every additional location with this path and flushes the catalogs it holds in
+    // English, in all locales.
+    static void remove_additional_resource_location(ustring const& path);
+
+    // The catalog for locale, or for the fallback locale that has a file; the same object for
+    // both. MessageCatalogLoadFailed when no file is found or the one found doesn't load.
+    static boost::shared_ptr<MessageCatalog const> GetMessageCatalog(CatalogID const& id,
+                                                                     OvLocale const& locale);
+    static boost::shared_ptr<MessageCatalog const> openCatalog(
+        resource_core::BaseCatalogID const& id, OvLocale const& locale);
+    // Forgets id in every locale; catalogs still held elsewhere live on.
+    static void FlushCatalogFromCache(CatalogID const& id);
+
+    // The raw text. There is no fallback per message: a key missing from the catalog found is
+    // MessageNotFound even when a fallback locale's catalog has it.
+    static ustring get_message(MessageID const& id, OvLocale const& locale);
+    // The text with id's arguments filled in, without a count check.
+    static ustring get_message(resource_core::BaseMsgID const& id, OvLocale const& locale);
+    static ustring get_default_locale_message(resource_core::BaseMsgID const& id);
 };
 
 }  // namespace i18n
