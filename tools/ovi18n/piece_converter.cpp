@@ -30,13 +30,16 @@ converted_piece convert_piece(fl::i18n::stream_codecvt_string_to_ustring const& 
     try {
         raw_buffer<char>& bytes = piece.bytes;
         bytes.reserve(3 * text.size + 16);
-        bytes.size =
+        std::size_t needed =
             encoder->do_convert(bytes.data.get(), bytes.capacity, text.data.get(), text.size);
-        if (bytes.size > bytes.capacity) {
-            bytes.reserve(bytes.size);
-            bytes.size =
+        if (needed > bytes.capacity) {
+            // Nothing was kept of the first try; the buffer only has to grow.
+            bytes = raw_buffer<char>();
+            bytes.reserve(needed);
+            needed =
                 encoder->do_convert(bytes.data.get(), bytes.capacity, text.data.get(), text.size);
         }
+        bytes.size = needed;
     } catch (fl::i18n::CvtExceptionBase const&) {
         return piece;
     }
