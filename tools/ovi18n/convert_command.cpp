@@ -34,6 +34,10 @@ using fl::i18n::codecvt_call_back_mode;
 constexpr std::size_t piece_size = 1u << 20;
 // Bytes kept from before a piece, for finding a refused sequence that began in the last one.
 constexpr std::size_t history_size = 64;
+// Pieces converted ahead of the one being written. A piece in flight holds its input, its text
+// and its output, several MiB, so this, not the number of cores, bounds the memory: more threads
+// than this add nothing but resident size.
+constexpr std::size_t most_pieces_ahead = 6;
 
 struct options {
     std::string from;
@@ -110,7 +114,10 @@ using decoder_ptr = std::shared_ptr<fl::i18n::stream_codecvt_string_to_ustring c
 class converter_run {
 public:
     converter_run(options const& o, unsigned jobs)
-        : options_(o), encoder_(make_encoder(o)), jobs_(std::max(jobs, 1u)) {}
+        : options_(o),
+          encoder_(make_encoder(o)),
+          jobs_(std::max(jobs, 1u)),
+          pieces_ahead_(std::min<std::size_t>(2 * jobs_, most_pieces_ahead)) {}
 
     // Returns the exit code: 0, or 1 after saying what went wrong.
     int convert(std::FILE* in, std::string const& name, std::uint64_t size) {
@@ -165,7 +172,7 @@ public:
             start(job, ends_clean);
             in_flight_.push_back(std::move(job));
             // Enough pieces ahead to keep every thread busy, and no more, so memory stays flat.
-            while (!in_flight_.empty() && (last || in_flight_.size() > 2 * jobs_)) {
+            while (!in_flight_.empty() && (last || in_flight_.size() > pieces_ahead_)) {
                 bool const written = finish(in_flight_.front());
                 in_flight_.pop_front();
                 if (!written) {
@@ -302,6 +309,7 @@ private:
     options const& options_;
     std::unique_ptr<fl::i18n::codecvt_ustring_to_string> encoder_;
     unsigned const jobs_;
+    std::size_t const pieces_ahead_;
     // The converter and result a piece that didn't end clean leaves to the next piece.
     decoder_ptr decoder_;
     std::shared_future<converted_piece> previous_;
