@@ -8,32 +8,31 @@
 #include <utility>
 #include <vector>
 
-// Installation roots under a scratch directory: catalogs in root/resources/C/L/S.xml, catalog
-// maps in root/derived/share/resources/C/catalog_map.xml.
-class catalog_tree : public scratch_directory {
-public:
-    using entries = std::vector<std::pair<std::string, std::string>>;
-
-    explicit catalog_tree(std::string const& name) : scratch_directory(name) {}
-
-    // Makes the directories and writes the file (name relative to the scratch directory).
+// Installation roots in a scratch directory: root/resources/C/L/S.xml holds catalog C:S of
+// locale L, root/derived/share/resources/C/catalog_map.xml the map of C.
+struct catalog_tree : scratch_directory {
+    using scratch_directory::scratch_directory;
     void put(std::string const& name, std::string const& content) const {
         std::filesystem::create_directories(std::filesystem::path(bytes(name)).parent_path());
         write(name, content);
     }
-    void put_catalog(std::string const& name, entries const& texts) const {
-        std::string xml = "<rsccat><message>\n";
-        for (auto const& entry : texts) {
+    // Entries of a catalog, or only keys (with empty texts) for a map.
+    void put_catalog(std::string const& name,
+                     std::vector<std::pair<std::string, std::string>> const& entries,
+                     char const* root = "rsccat><message",
+                     char const* end = "message></rsccat") const {
+        std::string xml = std::string("<") + root + ">\n";
+        for (auto const& entry : entries) {
             xml += "<entry key=\"" + entry.first + "\">" + entry.second + "</entry>\n";
         }
-        put(name, xml + "</message></rsccat>\n");
+        put(name, xml + "</" + end + ">\n");
     }
     void put_map(std::string const& name, std::vector<std::string> const& keys) const {
-        std::string xml = "<MessageCatalogMap>\n";
-        for (std::string const& key : keys) {
-            xml += "<entry key=\"" + key + "\"/>\n";
+        std::vector<std::pair<std::string, std::string>> entries;
+        for (auto const& key : keys) {
+            entries.emplace_back(key, "");
         }
-        put(name, xml + "</MessageCatalogMap>\n");
+        put_catalog(name, entries, "MessageCatalogMap", "MessageCatalogMap");
     }
 };
 
