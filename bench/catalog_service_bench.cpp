@@ -59,6 +59,7 @@ struct fixture {
             << "msgid \"not_saved\"\nmsgstr \"" << raw_text << "\"\n";
         run("msgfmt -o " + (dir / "mo/de/LC_MESSAGES/bench.mo").string() + " " +
             (dir / "bench.po").string());
+        sfs::create_directories(dir / "locales");
         run("localedef --no-archive -c --quiet -i de_DE -f UTF-8 " +
             (dir / "locales/de_DE.UTF-8").string() + " >/dev/null 2>&1 || true");
         setenv("LOCPATH", (dir / "locales").c_str(), 1);

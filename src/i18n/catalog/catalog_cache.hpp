@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -26,7 +27,9 @@ struct CatalogCacheEntry {
 // its table is still the newest), so hits neither queue behind a load nor behind each other.
 class catalog_cache {
 public:
-    using table = boost::unordered_map<std::string, CatalogCacheEntry>;
+    // std::hash takes a word at a time where boost's default hash mixes in every character; on
+    // a hit the key's hash is most of the lookup.
+    using table = boost::unordered_map<std::string, CatalogCacheEntry, std::hash<std::string>>;
 
     // The newest table, as this thread holds it. The reference, and the catalogs in it, stay
     // valid until the same thread calls current() again.
