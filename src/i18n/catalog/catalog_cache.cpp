@@ -4,7 +4,7 @@ namespace fl {
 namespace i18n {
 namespace catalog {
 
-catalog_cache::table const& catalog_cache::current() const {
+catalog_cache::snapshot const& catalog_cache::current() const {
     // One cache exists per process, so one slot per thread serves. A thread that stops calling
     // keeps its last table, and the catalogs in it, alive until it calls again or ends.
     thread_local boost::shared_ptr<snapshot const> mine;
@@ -12,7 +12,42 @@ catalog_cache::table const& catalog_cache::current() const {
         std::lock_guard<std::mutex> const lock(publish_mutex_);
         mine = current_;
     }
-    return mine->entries;
+    return *mine;
+}
+
+MessageCatalog const* catalog_cache::find(std::string const& catalog_id,
+                                          std::string const& locale) const {
+    // Callers tend to ask one catalog many times in a row: the thread's last hit is answered
+    // without building and hashing the key. It stands while no newer table exists, since the
+    // thread's own table, which holds the catalog, is then the one it was found in.
+    thread_local struct {
+        std::string catalog_id;
+        std::string locale;
+        std::string key;
+        std::uint64_t version = 0;
+        MessageCatalog const* catalog = nullptr;
+    } last;
+    if (last.catalog != nullptr && last.version == version_.load(std::memory_order_acquire) &&
+        last.catalog_id == catalog_id && last.locale == locale) {
+        return last.catalog;
+    }
+    snapshot const& table = current();
+    last.key.assign(catalog_id).append(1, ':').append(locale);
+    auto const it = table.entries.find(last.key);
+    if (it == table.entries.end()) {
+        return nullptr;
+    }
+    last.catalog_id = catalog_id;
+    last.locale = locale;
+    last.version = table.version;
+    last.catalog = it->second.catalog.get();
+    return last.catalog;
+}
+
+boost::shared_ptr<MessageCatalog const> catalog_cache::find_shared(std::string const& key) const {
+    table const& entries = current().entries;
+    auto const it = entries.find(key);
+    return it == entries.end() ? boost::shared_ptr<MessageCatalog const>() : it->second.catalog;
 }
 
 std::uint64_t catalog_cache::flush_count() const {

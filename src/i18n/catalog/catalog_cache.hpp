@@ -31,9 +31,11 @@ public:
     // a hit the key's hash is most of the lookup.
     using table = boost::unordered_map<std::string, CatalogCacheEntry, std::hash<std::string>>;
 
-    // The newest table, as this thread holds it. The reference, and the catalogs in it, stay
-    // valid until the same thread calls current() again.
-    table const& current() const;
+    // The catalog stored under catalog_id + ":" + locale, or null. Valid until the same thread
+    // calls into the cache again.
+    MessageCatalog const* find(std::string const& catalog_id, std::string const& locale) const;
+    // The same under a whole key, shared.
+    boost::shared_ptr<MessageCatalog const> find_shared(std::string const& key) const;
 
     // What has been flushed so far; a load notes it before it reads its file.
     std::uint64_t flush_count() const;
@@ -49,6 +51,8 @@ private:
         table entries;
         std::uint64_t version = 0;
     };
+    // The newest table, as this thread holds it; valid until the thread's next call.
+    snapshot const& current() const;
     // Publishes a copy of the newest table changed by edit, if admit() still holds (asked
     // under the lock).
     template <class Edit, class Admit>

@@ -22,29 +22,8 @@ namespace {
 
 using catalog_ptr = boost::shared_ptr<MessageCatalog const>;
 
-// "catalog id:locale", built in a buffer of the calling thread so that a hit allocates nothing
-// for it. Valid until the thread's next call.
-std::string const& cache_key(std::string const& catalog_id, std::string const& locale) {
-    thread_local std::string key;
-    key.assign(catalog_id);
-    key += ':';
-    key += locale;
-    return key;
-}
-
-// The cached catalog, valid until this thread's next look into the cache; null on a miss.
-// Only ids that passed their syntax check are ever stored, and a locale name holds no colon, so
-// a key splits one way only: a text that finds an entry is the valid id it was stored under.
-MessageCatalog const* cached(std::string const& catalog_id, std::string const& locale) {
-    catalog::catalog_cache::table const& table = catalog::service().cache.current();
-    auto const it = table.find(cache_key(catalog_id, locale));
-    return it == table.end() ? nullptr : it->second.catalog.get();
-}
-
 catalog_ptr cached_ptr(std::string const& key) {
-    catalog::catalog_cache::table const& table = catalog::service().cache.current();
-    auto const it = table.find(key);
-    return it == table.end() ? catalog_ptr() : it->second.catalog;
+    return catalog::service().cache.find_shared(key);
 }
 
 // Loads the catalog of id for the locale whose messages name is locale_name, with the load
@@ -89,10 +68,13 @@ catalog_ptr load(std::string const& id, OvLocale const& locale, std::string cons
 ustring message_text(std::string const& catalog_id, std::string const& key,
                      OvLocale const& locale) {
     std::string const locale_name = locale.getLocaleName(OvLocale::messages);
-    if (MessageCatalog const* const catalog = cached(catalog_id, locale_name)) {
+    // Only ids that passed their syntax check are ever stored, and a locale name holds no colon,
+    // so a key splits one way only: a text that finds an entry is the valid id it was stored
+    // under, and the check is left to the way to a load.
+    if (MessageCatalog const* const catalog =
+            catalog::service().cache.find(catalog_id, locale_name)) {
         return catalog->get_message_text(key);
     }
-    // The id is checked here, on the way to a load.
     return load(CatalogID(catalog_id).getCatalogID(), locale, locale_name)->get_message_text(key);
 }
 
@@ -101,7 +83,7 @@ ustring message_text(std::string const& catalog_id, std::string const& key,
 catalog_ptr MessageCatalog::GetMessageCatalog(CatalogID const& id, OvLocale const& locale) {
     std::string const locale_name = locale.getLocaleName(OvLocale::messages);
     std::string const catalog_id = id.getCatalogID();
-    if (catalog_ptr const hit = cached_ptr(cache_key(catalog_id, locale_name))) {
+    if (catalog_ptr const hit = cached_ptr(catalog_id + ':' + locale_name)) {
         return hit;
     }
     return load(catalog_id, locale, locale_name);
