@@ -9,8 +9,13 @@ catalog_cache::snapshot const& catalog_cache::current() const {
     // keeps its last table, and the catalogs in it, alive until it calls again or ends.
     thread_local boost::shared_ptr<snapshot const> mine;
     if (!mine || mine->version != version_.load(std::memory_order_acquire)) {
-        std::lock_guard<std::mutex> const lock(publish_mutex_);
-        mine = current_;
+        boost::shared_ptr<snapshot const> newest;
+        {
+            std::lock_guard<std::mutex> const lock(publish_mutex_);
+            newest = current_;
+        }
+        // The old table, and catalogs flushed from it, may go with this swap: outside the lock.
+        mine.swap(newest);
     }
     return *mine;
 }
