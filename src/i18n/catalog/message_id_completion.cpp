@@ -8,6 +8,7 @@
 #include "i18n/catalog/catalog_map.hpp"
 #include "i18n/catalog/catalog_roots.hpp"
 
+#include <unicode/unistr.h>
 #include <boost/numeric/conversion/cast.hpp>
 
 #include <algorithm>
@@ -39,10 +40,11 @@ void add_keys(MessageIdCompletions& result, ustring const& catalog_part, ustring
         std::string const typed_catalog =
             codecvt_ustring_to_ascii().do_convert(catalog_part.data(), catalog_part.size());
         CatalogID const id(resource_core::makeInternalCatalogName(typed_catalog));
-        codecvt_ascii_to_ustring const widen;
         auto const catalog = MessageCatalog::GetMessageCatalog(id, OvLocale::global());
         for (std::string const& key : catalog->get_message_keys()) {
-            ustring wide = widen.do_convert(key.data(), key.size());
+            // Keys are the bytes of the catalog file, which is UTF-8.
+            icu::UnicodeString const text = icu::UnicodeString::fromUTF8(key);
+            ustring wide(text.getBuffer(), static_cast<std::size_t>(text.length()));
             if (starts_like(wide, key_part)) {
                 result.completions.push_back(std::move(wide));
             }
