@@ -92,9 +92,10 @@ boost::shared_ptr<boost::unordered_set<ustring>> collect_catalog_names(
             }
             continue;
         }
+        // One handler reads every map of the root. A broken map leaves what it gave before the
+        // fault, and the handler as the fault left it, which may refuse the maps read after it.
         auto const handler = boost::make_shared<MetaInfoExpatEventHandler>(prefix, names);
         for (upath const& map : maps_for_prefix(root, prefix)) {
-            // A broken map leaves what it gave before the fault.
             ExpatFileParser(map, handler).parse();
         }
     }
