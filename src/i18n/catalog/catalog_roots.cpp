@@ -79,19 +79,13 @@ void flush_english_catalogs(upath const& dir) {
                 continue;
             }
             upath component(it->full_pathname(), false);
-            ustring const stem_text = component.stem();
             std::string stem;
             try {
-                stem = to_ascii.do_convert(stem_text.data(), stem_text.size());
+                stem = to_ascii.do_convert(component.stem().data(), component.stem().size());
             } catch (CvtInvalidCharacter const&) {
                 continue;
             }
             component /= u"en";
-            // A component with translations only has nothing to flush by this rule; its missing
-            // English directory is no failure of the removal.
-            if (!is_directory(component)) {
-                continue;
-            }
             for (std::string const& catalog_name : list_catalog_names(component)) {
                 MessageCatalog::FlushCatalogFromCache(CatalogID(stem + catalog_name));
             }

@@ -37,8 +37,6 @@ catalog_tree const& tree() {
         t->put_catalog("main/derived/share/resources/VELMOR/catalog_map.xml",
                        {{"VELMOR:legacy_two_part:old", ""}}, true);
         t->put_catalog("extra/resources/addon/en/extra.xml", {{"e", "Extra"}});
-        // Translations only: nothing to flush, and no failure.
-        t->put_catalog("extra/resources/local/de/x.xml", {{"e", "Extra"}});
         t->put_catalog("bad/resources/1bad/en/x.xml", {{"k", "v"}});
         t->put_catalog("gone/resources/addon/en/extra.xml", {{"e", "Gone"}});
         return t;
