@@ -15,6 +15,10 @@ int run_encodings(std::vector<std::string> const& args, std::ostream& out);
 int run_convert(std::vector<std::string> const& args);
 // The arguments after "ls": PATH [PATTERN] [--json].
 int run_ls(std::vector<std::string> const& args);
+// [--root DIR] [--html FILE] [--json]: lints a resources tree; 1 when it has errors.
+int run_check(std::vector<std::string> const& args);
+// [--root DIR] [--json]: the catalogs of each locale with their entry counts.
+int run_catalogs(std::vector<std::string> const& args);
 
 }  // namespace ovi18n_tool
 
