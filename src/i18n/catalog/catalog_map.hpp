@@ -21,7 +21,7 @@ ustring catalog_file_pattern(std::string const& catalog_id);
 // directory's order, links not followed). A name that is not ASCII throws CvtInvalidCharacter.
 std::vector<std::string> list_catalog_names(fl::filesystem::upath const& dir);
 
-// Appends every catalog_map.xml below dir (links followed); nothing below a map is searched.
+// Appends every catalog_map.xml below dir (links followed), in the directories' own order.
 void find_catalog_maps(fl::filesystem::upath const& dir, std::vector<fl::filesystem::upath>& found);
 
 // The names one level below prefix that the catalog maps of the roots list; with an empty
