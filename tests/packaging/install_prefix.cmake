@@ -7,7 +7,8 @@ if(NOT result EQUAL 0)
     message(FATAL_ERROR "cmake --install failed: ${result}")
 endif()
 foreach(file bin/lcdata.xml bin/x64linux/libovi18n.so include/fl/i18n.hpp
-        lib/cmake/ovi18n/ovi18nConfig.cmake lib/pkgconfig/ovi18n.pc)
+        lib/cmake/ovi18n/ovi18nConfig.cmake lib/pkgconfig/ovi18n.pc
+        resources/VELMOR/en/legacy_two_part.xml derived/share/resources/VELMOR/catalog_map.xml)
     if(NOT EXISTS ${PREFIX}/${file})
         message(FATAL_ERROR "not installed: ${file}")
     endif()
