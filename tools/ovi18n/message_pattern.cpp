@@ -1,7 +1,7 @@
 #include "message_pattern.hpp"
 
-#include <unicode/fieldpos.h>
 #include <unicode/locid.h>
+#include <unicode/messagepattern.h>
 #include <unicode/msgfmt.h>
 #include <unicode/strenum.h>
 
@@ -11,12 +11,32 @@
 namespace ovi18n_tool {
 namespace {
 
-int count_apostrophes(icu::UnicodeString const& text) {
-    int count = 0;
-    for (int32_t i = 0; i < text.length(); ++i) {
-        count += text.charAt(i) == u'\'';
+// Auto-quoting only inserts apostrophes, each right after one of the raw text that is meant as
+// text. An apostrophe that formatting skips and that the raw text holds, one that opens a
+// quotation (as in '{0}') or the second of a pair the author doubled, doesn't come out as written.
+bool apostrophes_change(icu::UnicodeString const& raw, icu::UnicodeString const& quoted) {
+    UErrorCode status = U_ZERO_ERROR;
+    icu::MessagePattern const pattern(quoted, nullptr, status);
+    if (U_FAILURE(status)) {
+        return false;
     }
-    return count;
+    std::vector<bool> inserted(static_cast<std::size_t>(quoted.length()), false);
+    for (int32_t i = 0, j = 0; j < quoted.length(); ++j) {
+        if (i < raw.length() && raw.charAt(i) == quoted.charAt(j)) {
+            ++i;
+        } else {
+            inserted[static_cast<std::size_t>(j)] = true;
+        }
+    }
+    for (int32_t p = 0; p < pattern.countParts(); ++p) {
+        icu::MessagePattern::Part const& part = pattern.getPart(p);
+        int32_t const at = part.getIndex();
+        if (part.getType() == UMSGPAT_PART_TYPE_SKIP_SYNTAX && quoted.charAt(at) == u'\'' &&
+            !inserted[static_cast<std::size_t>(at)]) {
+            return true;
+        }
+    }
+    return false;
 }
 
 }  // namespace
@@ -50,13 +70,7 @@ message_pattern read_message_pattern(fl::i18n::ustring const& text) {
     result.holes.erase(std::unique(result.holes.begin(), result.holes.end()), result.holes.end());
     result.valid = true;
 
-    // Without arguments ICU leaves each hole as "{name}", so only quoting can change the count.
-    icu::UnicodeString output;
-    icu::FieldPosition position;
-    status = U_ZERO_ERROR;
-    format.format(nullptr, 0, output, position, status);
-    result.apostrophes_changed =
-        U_SUCCESS(status) && count_apostrophes(output) != count_apostrophes(raw);
+    result.apostrophes_changed = apostrophes_change(raw, quoted);
     return result;
 }
 

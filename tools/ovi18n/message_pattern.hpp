@@ -13,7 +13,7 @@ namespace ovi18n_tool {
 struct message_pattern {
     bool valid = false;
     std::vector<std::string> holes;  // distinct names, numbered ("0") or named, sorted
-    // Apostrophes that don't come out as written: a quoted hole such as '{0}' or a doubled ''.
+    // Apostrophes that don't come out as written: one quoting a brace, as in '{0}', or ''.
     bool apostrophes_changed = false;
 };
 

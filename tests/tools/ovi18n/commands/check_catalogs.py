@@ -12,7 +12,7 @@ ENTRIES = "<rsccat><message>\n{}\n</message></rsccat>\n"
 TREE = {
     "en/main.xml": ENTRIES.format('<entry key="hello">Hello {0}</entry>\n'
                                   '<entry key="named">Hi {user}</entry>\n'
-                                  '<entry key="gone">Gone</entry>'),
+                                  "<entry key=\"gone\">{n,plural, =0{Aujourd'hui} other{# don't}}</entry>"),
     "de/main.xml": ENTRIES.format('<entry key="hello">Hallo {1}</entry>\n'
                                   '<entry key="named">Hallo {user}</entry>\n'
                                   '<entry key="extra">Extra</entry>'),
