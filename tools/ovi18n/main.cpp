@@ -24,6 +24,9 @@ void print_help(std::ostream& out) {
            "  check [--root DIR] [--html FILE] [--json]  lint the message catalogs of an\n"
            "                                  installation; exit 1 on errors\n"
            "  catalogs [--root DIR] [--json]  the catalogs of each locale and their entries\n"
+           "  message ID [ARG...] [--locale NAME] [--root DIR] [--json]  a formatted message,\n"
+           "                                  and which locale's file served it and why\n"
+           "  complete [PREFIX] [--root DIR] [--json]  what may follow a partly typed id\n"
            "  (convert's MODE: stop (default), replace, substitute=BYTES, escape-icu, "
            "escape-java,\n"
            "   escape-c, escape-xml-dec, escape-xml-hex, escape-unicode, escape-css2)\n"
@@ -84,6 +87,12 @@ int run(std::vector<std::string> const& args) {
     }
     if (command == "catalogs") {
         return ovi18n_tool::run_catalogs(rest);
+    }
+    if (command == "message") {
+        return ovi18n_tool::run_message(rest);
+    }
+    if (command == "complete") {
+        return ovi18n_tool::run_complete(rest);
     }
     return usage_error("unknown command '" + command + "'");
 }
