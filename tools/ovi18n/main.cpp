@@ -30,7 +30,6 @@ void print_help(std::ostream& out) {
            "  (convert's MODE: stop (default), replace, substitute=BYTES, escape-icu, "
            "escape-java,\n"
            "   escape-c, escape-xml-dec, escape-xml-hex, escape-unicode, escape-css2)\n"
-           "\n"
            "  (DIR is an installation root, holding resources/ and derived/; by default the one\n"
            "   this tool is installed in)\n"
            "\n"
