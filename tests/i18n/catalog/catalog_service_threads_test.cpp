@@ -56,17 +56,22 @@ TEST(CatalogServiceThreadsTest, LoadsHitsFlushesAndLocationChangesTogether) {
     tree.put_catalog("extra/resources/addon/en/x.xml", {{"k", "extra"}});
     ASSERT_TRUE(MC::MessageCatalogInit(tree.text("main")));
 
-    // One file asked for at once from two locales that both come to it: one object.
-    auto const swiss = fl::i18n::OvLocale::createLocale("de_CH");
+    // One catalog asked for at once; its load is long enough for all to miss the cache, and its
+    // file is of the very locale asked for, so only the one key leads to it.
+    std::vector<std::pair<std::string, std::string>> many(3000, {"k", "text"});
+    for (std::size_t i = 1; i < many.size(); ++i) {
+        many[i].first += std::to_string(i);
+    }
+    tree.put_catalog("main/resources/t/en_US/big.xml", many);
     std::vector<boost::shared_ptr<MC const>> got(8);
     run_together(8, [&](int t) {
-        got[t] = MC::GetMessageCatalog(CatalogID("t:c0"),
-                                       t % 2 ? *swiss : fl::i18n::OvLocale::classic());
+        got[t] = MC::GetMessageCatalog(CatalogID("t:big"), fl::i18n::OvLocale::classic());
         return 0;
     });
     EXPECT_EQ(std::count(got.begin(), got.end(), got[0]), 8);
 
-    // Different catalogs loading at once.
+    // Different catalogs loading at once, in two locales that come to the same files.
+    auto const swiss = fl::i18n::OvLocale::createLocale("de_CH");
     EXPECT_EQ(run_together(6, [&](int t) { return !reads(t) + !reads((t + 1) % 6, *swiss); }), 0);
 
     // Flushes and location changes racing lookups.

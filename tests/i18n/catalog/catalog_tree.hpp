@@ -16,23 +16,15 @@ struct catalog_tree : scratch_directory {
         std::filesystem::create_directories(std::filesystem::path(bytes(name)).parent_path());
         write(name, content);
     }
-    // Entries of a catalog, or only keys (with empty texts) for a map.
+    // A catalog of the entries or, with map set, a catalog map of their keys.
     void put_catalog(std::string const& name,
                      std::vector<std::pair<std::string, std::string>> const& entries,
-                     char const* root = "rsccat><message",
-                     char const* end = "message></rsccat") const {
-        std::string xml = std::string("<") + root + ">\n";
+                     bool map = false) const {
+        std::string xml = map ? "<MessageCatalogMap>\n" : "<rsccat><message>\n";
         for (auto const& entry : entries) {
             xml += "<entry key=\"" + entry.first + "\">" + entry.second + "</entry>\n";
         }
-        put(name, xml + "</" + end + ">\n");
-    }
-    void put_map(std::string const& name, std::vector<std::string> const& keys) const {
-        std::vector<std::pair<std::string, std::string>> entries;
-        for (auto const& key : keys) {
-            entries.emplace_back(key, "");
-        }
-        put_catalog(name, entries, "MessageCatalogMap", "MessageCatalogMap");
+        put(name, xml + (map ? "</MessageCatalogMap>\n" : "</message></rsccat>\n"));
     }
 };
 
