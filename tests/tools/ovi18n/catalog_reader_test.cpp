@@ -28,7 +28,7 @@ TEST(CatalogReaderTest, AcceptsAndRefusesWhatTheLoaderDoes) {
         "<rsccat><message><entry key=\"k\">open",
         "<rsccat x=\"y\" version=\"2\"><message/></rsccat>",
         "<rsccat x=\"version\"><message/></rsccat>",
-        "<rsccat version=\"1\" locale=\"de\"><message/></rsccat>",
+        "<rsccat version=\"1\" locale=\"version\"><message/></rsccat>",
         head + "<entry key=\"k\">a <b>bold</b></entry>" + tail,
         head + "<entry>no key</entry>" + tail,
         head + "<entry key=\"\">empty key</entry>" + tail,
