@@ -11,7 +11,7 @@ packages=(
     libboost-thread-dev libboost-filesystem-dev libboost-system-dev
     libboost-date-time-dev libboost-chrono-dev
     libgtest-dev libgmock-dev libbenchmark-dev
-    locales clang libclang-rt-14-dev unicode-cldr-core unicode-data python3
+    locales clang libclang-rt-14-dev unicode-cldr-core python3
 )
 
 missing=()

@@ -21,7 +21,8 @@ if [ "${OVI18N_SKIP_TSAN:-0}" != 1 ]; then
     configure_tree build-tsan -DCMAKE_C_COMPILER=gcc -DCMAKE_CXX_COMPILER=g++ -DOVI18N_BUILD_TESTS=ON -DOVI18N_BUILD_TOOLS=OFF \
         -DOVI18N_BUILD_BENCHMARKS=OFF -DOVI18N_SANITIZE=thread -DOVI18N_FUZZ=OFF
     cmake --build build-tsan -j"$jobs"
-    TSAN_OPTIONS=halt_on_error=1 run_ctest build-tsan -L threads
+    TSAN_OPTIONS="halt_on_error=1:suppressions=$PWD/tests/support/tsan.supp" \
+        run_ctest build-tsan -L threads
 fi
 
 if [ "${OVI18N_SKIP_ASAN:-0}" != 1 ]; then

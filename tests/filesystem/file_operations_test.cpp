@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "filesystem/temp_directory_fixture.hpp"
+#include "support/expect_thrown.hpp"
 
 namespace {
 
@@ -85,13 +86,11 @@ struct failure {
 
 void expect_failures(std::vector<failure> const& failures) {
     for (auto const& f : failures) {
-        try {
-            f.call();
-            ADD_FAILURE() << f.label << ": nothing thrown";
-        } catch (fs::FsysExceptionBase const& e) {
-            EXPECT_EQ(e.get_excp_id(), f.id) << f.label << ": " << e.what();
-            EXPECT_EQ(e.get_pathname(), f.pathname) << f.label;
-        }
+        SCOPED_TRACE(f.label);
+        expect_thrown<fs::FsysExceptionBase>(f.call, [&](auto const& e) {
+            EXPECT_EQ(e.get_excp_id(), f.id) << e.what();
+            EXPECT_EQ(e.get_pathname(), f.pathname);
+        });
     }
 }
 

@@ -4,10 +4,9 @@
 
 #include <atomic>
 #include <string>
-#include <thread>
-#include <vector>
 
 #include "filesystem/temp_directory_fixture.hpp"
+#include "support/run_together.hpp"
 
 namespace {
 
@@ -22,30 +21,18 @@ class FilesystemThreads : public fstest::temp_directory_test {};
 // the threads.
 TEST_F(FilesystemThreads, ConcurrentOperationsAgree) {
     ustring const cwd = fs::get_current_path();
-    constexpr int thread_count = 4;
-    constexpr int rounds = 200;
     std::atomic<int> mismatches{0};
-    std::vector<std::thread> threads;
-    for (int t = 0; t < thread_count; ++t) {
-        threads.emplace_back([&, t] {
-            ustring const own = at("t" + std::to_string(t));
-            for (int i = 0; i < rounds; ++i) {
-                fs::create_directories(own + u"/a/b");
-                if (!fs::exists(fs::upath(own + u"//a/b/"))) {
-                    ++mismatches;
-                }
-                fs::remove_all(own);
-                if (fs::get_install_path() != fs::get_install_path() ||
-                    fs::get_current_path() != cwd) {
-                    ++mismatches;
-                }
-                fs::change_current_path(cwd);
-            }
-        });
-    }
-    for (auto& thread : threads) {
-        thread.join();
-    }
+    run_together(4, [&](int t) {
+        ustring const own = at("t" + std::to_string(t));
+        for (int i = 0; i < 200; ++i) {
+            fs::create_directories(own + u"/a/b");
+            mismatches += !fs::exists(fs::upath(own + u"//a/b/"));
+            fs::remove_all(own);
+            mismatches +=
+                fs::get_install_path() != fs::get_install_path() || fs::get_current_path() != cwd;
+            fs::change_current_path(cwd);
+        }
+    });
     EXPECT_EQ(mismatches.load(), 0);
 }
 
@@ -55,25 +42,16 @@ TEST_F(FilesystemThreads, DistinctIteratorsAndComparisonsAgree) {
         write_file("f" + std::to_string(i) + (i % 2 ? ".xml" : ".txt"));
     }
     std::atomic<int> mismatches{0};
-    std::vector<std::thread> threads;
-    for (int t = 0; t < 4; ++t) {
-        threads.emplace_back([&] {
-            for (int i = 0; i < 100; ++i) {
-                int count = 0;
-                for (fs::directory_iterator it(u(root_),
-                                               fs::wildcard_pattern_string_context(u"*.xml"));
-                     it != fs::directory_iterator(); ++it) {
-                    ++count;
-                }
-                if (count != 10 || fs::compare(u"/a", u"/A", 1) != 0) {
-                    ++mismatches;
-                }
+    run_together(4, [&](int) {
+        for (int i = 0; i < 100; ++i) {
+            int count = 0;
+            for (fs::directory_iterator it(u(root_), fs::wildcard_pattern_string_context(u"*.xml"));
+                 it != fs::directory_iterator(); ++it) {
+                ++count;
             }
-        });
-    }
-    for (auto& thread : threads) {
-        thread.join();
-    }
+            mismatches += count != 10 || fs::compare(u"/a", u"/A", 1) != 0;
+        }
+    });
     EXPECT_EQ(mismatches.load(), 0);
 }
 

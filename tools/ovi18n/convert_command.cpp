@@ -1,5 +1,7 @@
 #include "bad_input_locator.hpp"
 #include "commands.hpp"
+#include "line_boundary.hpp"
+#include "piece_converter.hpp"
 #include "progress_line.hpp"
 #include "text_position.hpp"
 #include "usage_error.hpp"
@@ -12,11 +14,15 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <deque>
+#include <future>
 #include <iostream>
 #include <map>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace ovi18n_tool {
@@ -28,6 +34,10 @@ using fl::i18n::codecvt_call_back_mode;
 constexpr std::size_t piece_size = 1u << 20;
 // Bytes kept from before a piece, for finding a refused sequence that began in the last one.
 constexpr std::size_t history_size = 64;
+// Pieces converted ahead of the one being written. A piece in flight holds its input, its text
+// and its output, several MiB, so this, not the number of cores, bounds the memory: more threads
+// than this add nothing but resident size.
+constexpr std::size_t most_pieces_ahead = 6;
 
 struct options {
     std::string from;
@@ -35,6 +45,7 @@ struct options {
     std::string mode = "stop";
     std::string substitution;
     bool quiet = false;
+    unsigned jobs = 0;  // 0: one per core
     std::vector<std::string> files;
 };
 
@@ -84,66 +95,156 @@ std::string hex(std::string const& bytes) {
     return out;
 }
 
+// A piece of input on its way through the converters. A piece that ends right after a line
+// feed, in an encoding that may be cut there, is decoded by a converter of its own, so several
+// pieces decode at once, and one that also begins so is encoded on the same thread. Any other
+// piece hands its decoder on to the next, which waits for it, and is encoded in order by the
+// main thread, which alone keeps a surrogate cut off at a piece's end.
+struct piece_job {
+    // Up to history_size bytes from before the piece, then the piece; shared with its thread.
+    std::shared_ptr<std::string const> bytes;
+    std::size_t history = 0;
+    std::uint64_t offset = 0;  // of the piece's first byte in the input
+    bool last = false;
+    std::shared_future<converted_piece> result;
+};
+
+using decoder_ptr = std::shared_ptr<fl::i18n::stream_codecvt_string_to_ustring const>;
+
 class converter_run {
 public:
-    explicit converter_run(options const& o) : options_(o), encoder_(make_encoder(o)) {}
+    converter_run(options const& o, unsigned jobs)
+        : options_(o),
+          encoder_(make_encoder(o)),
+          jobs_(std::max(jobs, 1u)),
+          pieces_ahead_(std::min<std::size_t>(2 * jobs_, most_pieces_ahead)) {}
 
     // Returns the exit code: 0, or 1 after saying what went wrong.
     int convert(std::FILE* in, std::string const& name, std::uint64_t size) {
-        fl::i18n::stream_codecvt_string_to_ustring decoder(options_.from, options_.mode != "stop");
         progress_line progress(!options_.quiet, size);
         progress_ = &progress;
         name_ = name;
-        std::vector<char> piece(history_size + piece_size);
-        std::size_t history = 0;
-        std::uint64_t offset = 0;  // of the piece's first byte in the input
-        text_position position;
+        position_ = text_position();
         pending_.clear();
-        for (;;) {
-            char* const data = piece.data() + history_size;
-            std::size_t const got = std::fread(data, 1, piece_size, in);
+        decoder_.reset();
+        previous_ = std::shared_future<converted_piece>();
+        // Probed only once a second piece shows that the input is worth cutting; with one thread
+        // a single decoder takes the input in order, as a stream.
+        std::optional<bool> may_cut;
+        if (jobs_ == 1) {
+            may_cut = false;
+        }
+        std::string input;   // read and not yet handed over
+        std::string before;  // the last history_size bytes handed over
+        std::uint64_t offset = 0;
+        for (bool last = false; !last;) {
+            std::size_t const kept = input.size();
+            input.resize(kept + piece_size);
+            std::size_t const got = std::fread(input.data() + kept, 1, piece_size, in);
             if (got < piece_size && std::ferror(in)) {
                 return fail(name + ": " + std::strerror(errno));
             }
-            bool const last = got < piece_size;
-            char const* from = data;
-            bool more = true;
-            while (more) {
-                char16_t* to = decoded_.data() + pending_.size();
-                std::copy(pending_.begin(), pending_.end(), decoded_.data());
-                pending_.clear();
-                char16_t const* const text = decoded_.data();
-                try {
-                    more = decoder.do_convert(&to, decoded_.data() + decoded_.size(), &from,
-                                              data + got, last);
-                } catch (fl::i18n::CvtExceptionBase const&) {
-                    std::size_t const valid = static_cast<std::size_t>(to - text);
-                    if (!encode(text, valid, true, position)) {
-                        return 1;
-                    }
-                    bad_input const bad =
-                        locate_bad_input(options_.from, data - history,
-                                         static_cast<std::size_t>(from - data) + history);
-                    std::uint64_t const at = offset + bad.start - history;
-                    return fail(name + ":" + std::to_string(position.line) + ":" +
-                                std::to_string(position.column) + ": invalid " + options_.from +
-                                " input at byte " + std::to_string(at) + ": " + hex(bad.bytes));
+            input.resize(kept + got);
+            last = got < piece_size;
+            std::size_t cut = input.size();
+            bool ends_clean = last;
+            if (!last && !may_cut) {
+                may_cut = cuts_after_line_feed(options_.from);
+            }
+            if (!last && *may_cut) {
+                std::size_t const line_feed = input.rfind('\n');
+                if (line_feed != std::string::npos) {
+                    cut = line_feed + 1;
+                    ends_clean = true;
                 }
-                if (!encode(text, static_cast<std::size_t>(to - text), last && !more, position)) {
+            }
+            auto bytes = std::make_shared<std::string>();
+            bytes->reserve(before.size() + cut);
+            bytes->append(before).append(input, 0, cut);
+            piece_job job;
+            job.history = before.size();
+            job.offset = offset;
+            job.last = last;
+            before.assign(*bytes, bytes->size() - std::min(history_size, bytes->size()));
+            job.bytes = std::move(bytes);
+            input.erase(0, cut);
+            offset += cut;
+            start(job, ends_clean);
+            in_flight_.push_back(std::move(job));
+            // Enough pieces ahead to keep every thread busy, and no more, so memory stays flat.
+            while (!in_flight_.empty() && (last || in_flight_.size() > pieces_ahead_)) {
+                bool const written = finish(in_flight_.front());
+                in_flight_.pop_front();
+                if (!written) {
+                    in_flight_.clear();
                     return 1;
                 }
             }
-            offset += got;
-            progress.update(offset);
-            if (last) {
-                return 0;
-            }
-            history = std::min(history_size, got);
-            std::memmove(piece.data() + history_size - history, data + got - history, history);
         }
+        return 0;
     }
 
 private:
+    // Starts converting a piece: on a thread of its own when there are several, else when its
+    // result is asked for.
+    void start(piece_job& job, bool ends_clean) {
+        bool const starts_clean = !decoder_;
+        decoder_ptr decoder = decoder_;
+        if (!decoder) {
+            decoder = std::make_shared<fl::i18n::stream_codecvt_string_to_ustring const>(
+                options_.from, options_.mode != "stop");
+        }
+        std::shared_ptr<fl::i18n::codecvt_ustring_to_string const> encoder;
+        if (starts_clean && ends_clean) {
+            encoder = make_encoder(options_);
+        }
+        auto work = [decoder, encoder, previous = previous_, ends_clean, bytes = job.bytes,
+                     history = job.history]() mutable {
+            // After a failure the decoder was reset, so what follows is not decoded at all.
+            bool const after_failure = previous.valid() && previous.get().failed;
+            // Let go of the previous piece at once, or a chain of pieces would keep every text
+            // before it alive.
+            previous = std::shared_future<converted_piece>();
+            if (after_failure) {
+                return converted_piece{};
+            }
+            return convert_piece(*decoder, encoder.get(), bytes->data() + history,
+                                 bytes->size() - history, ends_clean);
+        };
+        job.result =
+            std::async(jobs_ > 1 ? std::launch::async : std::launch::deferred, std::move(work))
+                .share();
+        decoder_ = ends_clean ? decoder_ptr() : decoder;
+        previous_ = ends_clean ? std::shared_future<converted_piece>() : job.result;
+    }
+
+    // Writes a converted piece, or reports where its input went wrong.
+    bool finish(piece_job const& job) {
+        converted_piece const& piece = job.result.get();
+        if (piece.encoded) {
+            write_bytes(piece.bytes.data.get(), piece.bytes.size);
+            position_.advance(piece.span);
+        } else {
+            std::u16string text = pending_;
+            pending_.clear();
+            text.append(piece.text.data.get(), piece.text.size);
+            if (!encode(text.data(), text.size(), job.last || piece.failed, position_)) {
+                return false;
+            }
+        }
+        if (piece.failed) {
+            bad_input const bad =
+                locate_bad_input(options_.from, job.bytes->data(), job.history + piece.taken);
+            std::uint64_t const at = job.offset + bad.start - job.history;
+            fail(name_ + ":" + std::to_string(position_.line) + ":" +
+                 std::to_string(position_.column) + ": invalid " + options_.from +
+                 " input at byte " + std::to_string(at) + ": " + hex(bad.bytes));
+            return false;
+        }
+        progress_->update(job.offset + job.bytes->size() - job.history);
+        return true;
+    }
+
     // Encodes and writes the text, keeping back a high surrogate at its end for the next piece
     // unless it is the end. With stop, an unencodable character ends the run after the text
     // before it is written.
@@ -189,7 +290,11 @@ private:
             encoded_.resize(needed);
             needed = encoder_->do_convert(encoded_.data(), encoded_.size(), text, size);
         }
-        if (std::fwrite(encoded_.data(), 1, needed, stdout) != needed) {
+        write_bytes(encoded_.data(), needed);
+    }
+
+    static void write_bytes(char const* bytes, std::size_t size) {
+        if (std::fwrite(bytes, 1, size, stdout) != size) {
             throw std::runtime_error(std::string("standard output: ") + std::strerror(errno));
         }
     }
@@ -203,7 +308,13 @@ private:
 
     options const& options_;
     std::unique_ptr<fl::i18n::codecvt_ustring_to_string> encoder_;
-    std::vector<char16_t> decoded_ = std::vector<char16_t>(piece_size + 2);
+    unsigned const jobs_;
+    std::size_t const pieces_ahead_;
+    // The converter and result a piece that didn't end clean leaves to the next piece.
+    decoder_ptr decoder_;
+    std::shared_future<converted_piece> previous_;
+    std::deque<piece_job> in_flight_;
+    text_position position_;
     std::vector<char> encoded_ = std::vector<char>(piece_size * 4);
     std::u16string pending_;
     std::string name_;
@@ -217,7 +328,8 @@ int run_convert(std::vector<std::string> const& args) {
     for (std::size_t i = 0; i < args.size(); ++i) {
         std::string const& arg = args[i];
         bool const has_value = i + 1 < args.size();
-        if ((arg == "--from" || arg == "--to" || arg == "--on-error") && !has_value) {
+        if ((arg == "--from" || arg == "--to" || arg == "--on-error" || arg == "--jobs") &&
+            !has_value) {
             return usage_error(arg + " needs a value");
         }
         if (arg == "--from") {
@@ -228,6 +340,14 @@ int run_convert(std::vector<std::string> const& args) {
             if (!set_mode(o, args[++i])) {
                 return usage_error("unknown --on-error mode '" + args[i] + "'");
             }
+        } else if (arg == "--jobs") {
+            std::string const& value = args[++i];
+            char* end = nullptr;
+            unsigned long const jobs = std::strtoul(value.c_str(), &end, 10);
+            if (value.empty() || *end != '\0' || jobs == 0 || jobs > 64) {
+                return usage_error("--jobs takes a number from 1 to 64");
+            }
+            o.jobs = static_cast<unsigned>(jobs);
         } else if (arg == "--quiet") {
             o.quiet = true;
         } else if (arg.size() > 1 && arg[0] == '-') {
@@ -248,7 +368,7 @@ int run_convert(std::vector<std::string> const& args) {
         }
         *name = standard;
     }
-    converter_run run(o);
+    converter_run run(o, o.jobs != 0 ? o.jobs : std::thread::hardware_concurrency());
     if (o.files.empty()) {
         o.files.push_back("-");
     }

@@ -36,17 +36,6 @@ TEST_F(StreamsUtf8, InputStreamReadsANonAsciiName) {
     fl::filesystem::ifstream by_text(at("") + u"/" + name_text);
     ASSERT_TRUE(std::getline(by_text, line));
     EXPECT_EQ(line, "erste Zeile");
-
-    fl::filesystem::ifstream other_name(fstest::u(root_) + u"/Gr\u00FC\u00DFe.txt");
-    EXPECT_FALSE(other_name.is_open());
-}
-
-TEST_F(StreamsUtf8, FopenWritesUnderTheUtf8Name) {
-    std::FILE* const file = fl::filesystem::fopen(at("") + name_text, "w");
-    ASSERT_NE(file, nullptr);
-    std::fputs("x", file);
-    std::fclose(file);
-    EXPECT_TRUE(std::filesystem::is_regular_file(bytes(name_bytes)));
 }
 
 TEST_F(StreamsUtf8, TemporaryNamesKeepNonAsciiParts) {

@@ -37,19 +37,15 @@ TEST(CtypeFacet, EachStandardBitStandsForItsClass) {
     }
 }
 
+// The mask of each code point is held to ICU over all of them elsewhere; this is the walk.
 TEST(CtypeFacet, RangeMasksJoinPairsAndNeverSetPrint) {
-    ustring const text = u"A1 +\U00010400\xD801z\t\u00A9";
+    ustring const text = u"A\U00010400\xD801z";
     std::vector<base::mask> const expected = {
         base::alpha | base::upper | base::xdigit,
-        base::digit | base::xdigit,
-        base::space,
-        base::punct,
         base::alpha | base::upper,  // both halves of U+10400
         base::alpha | base::upper,
         0,  // a high surrogate before a letter stands alone
         base::alpha | base::lower,
-        base::cntrl | base::space,
-        0,  // an other symbol is not punct
     };
     std::vector<base::mask> masks(text.size(), 0xFFFF);
     char16_t const* end = text.data() + text.size();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/expect_thrown.hpp"
+
 #include <fl/i18n/codecvt/codecvt_exception.hpp>
 #include <fl/i18n/ustring.hpp>
 
@@ -79,12 +81,8 @@ TEST(CtypeFacetConversion, ABadEncodingFailsAtFirstUseNotAtConstruction) {
     char16_t wide[2];
     char narrow[2];
     auto const expect_refused = [](auto const& call) {
-        try {
-            call();
-            ADD_FAILURE() << "no exception";
-        } catch (fl::i18n::CvtInvalidEncodingName const& e) {
-            EXPECT_EQ(e.get_encoding_name(), "no-such-encoding");
-        }
+        expect_thrown<fl::i18n::CvtInvalidEncodingName>(
+            call, [](auto const& e) { EXPECT_EQ(e.get_encoding_name(), "no-such-encoding"); });
     };
     expect_refused([&] { loc.ctype().widen('a'); });
     expect_refused([&] { loc.ctype().narrow(u'a', '?'); });

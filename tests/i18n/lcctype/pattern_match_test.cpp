@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/expect_thrown.hpp"
+
 using namespace fl::i18n;
 
 namespace {
@@ -57,13 +59,12 @@ ustring const& stack_exhausting_text() {
 
 TEST(PatternMatch, MatcherFailureSurfaces) {
     pattern_match const p(u"(a|b)*c", mode::default_mode);
-    try {
-        p.match(stack_exhausting_text());
-        ADD_FAILURE() << "no exception";
-    } catch (RegexFailedMatchOperation const& e) {
-        EXPECT_STREQ(e.what(), "fl:i18n:RegexFailedMatchOperation");
-        EXPECT_EQ(e.get_id(), 5);
-    }
+    expect_thrown<RegexFailedMatchOperation>([&] { p.match(stack_exhausting_text()); },
+                                             [](auto const& e) {
+                                                 EXPECT_STREQ(e.what(),
+                                                              "fl:i18n:RegexFailedMatchOperation");
+                                                 EXPECT_EQ(e.get_id(), 5);
+                                             });
     EXPECT_TRUE(p.match(u"abc"));  // the object stays usable
 }
 

@@ -21,6 +21,17 @@ TEST(Transform, SpecialCasingOfTheRootLocale) {
               u"\u03BF\u03B4\u03BF\u03C2 a");
 }
 
+// One text tells the four forms apart: the ligature is kept by the canonical forms only, and
+// the accent is joined by the composing forms only.
+TEST(Transform, EachNormalFormItsOwn) {
+    ustring const text = u"\uFB01e\u0301";
+    EXPECT_EQ(transformed(text, to_nfc()), u"\uFB01\u00E9");
+    EXPECT_EQ(transformed(text, to_nfd()), u"\uFB01e\u0301");
+    EXPECT_EQ(transformed(text, to_nfkc()), u"fi\u00E9");
+    EXPECT_EQ(transformed(text, to_nfkd()), u"fie\u0301");
+    EXPECT_EQ(transformed(u"\u00E9", to_nfd()), u"e\u0301");
+}
+
 TEST(Transform, LocaleFormsFollowTheCtypeCategory) {
     auto const turkish = OvLocale::createLocale("tr_TR");
     auto const lithuanian = OvLocale::createLocale("lt_LT");

@@ -6,11 +6,10 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <functional>
+#include "support/run_together.hpp"
+
 #include <set>
 #include <string>
-#include <thread>
 #include <tuple>
 #include <vector>
 
@@ -20,24 +19,6 @@ using fl::i18n::OvLcUtil;
 using fl::i18n::OvLocale;
 
 constexpr int thread_count = 8;
-
-// Runs body(i) on thread_count threads started at once, so the first touches really overlap.
-void run_together(std::function<void(int)> const& body) {
-    std::atomic<int> waiting{thread_count};
-    std::vector<std::thread> threads;
-    for (int i = 0; i < thread_count; ++i) {
-        threads.emplace_back([&waiting, &body, i] {
-            waiting.fetch_sub(1);
-            while (waiting.load() > 0) {
-                std::this_thread::yield();
-            }
-            body(i);
-        });
-    }
-    for (std::thread& t : threads) {
-        t.join();
-    }
-}
 
 // What one thread sees of the manager; every thread must see the same.
 using observation = std::tuple<OvLocale const*, OvLocale const*, OvLocale const*, int, std::string,
@@ -53,7 +34,7 @@ observation observe() {
 
 TEST(ManagerThreads, FirstTouchCreatesOneManager) {
     std::vector<observation> seen(thread_count);
-    run_together([&seen](int i) { seen[i] = observe(); });
+    run_together(thread_count, [&seen](int i) { seen[i] = observe(); });
     for (observation const& o : seen) {
         EXPECT_TRUE(o == seen[0]);
     }
@@ -64,7 +45,7 @@ TEST(ManagerThreads, FirstTouchCreatesOneManager) {
 
 TEST(ManagerThreads, StartUpRunsOnceWhoeverAsks) {
     std::vector<observation> seen(thread_count);
-    run_together([&seen](int i) {
+    run_together(thread_count, [&seen](int i) {
         if (i % 2 == 0) {
             fl::i18n::initialize();
         } else {
@@ -85,7 +66,7 @@ TEST(ManagerThreads, OneSwitchToEnglishWhileOthersRead) {
     ASSERT_EQ(OvLocale::global().getLocaleName(OvLocale::messages), "de_DE");
     auto const english_request = OvLocale::createLocale("en_US");
     std::vector<std::set<std::string>> seen_messages(thread_count);
-    run_together([&](int i) {
+    run_together(thread_count, [&](int i) {
         switch (i % 4) {
             case 0:
                 fl::i18n::disable_l10n_resource();

@@ -92,39 +92,21 @@ TEST(LocaleEquality, ComparesNamesModifiersAndEncodingOnly) {
     expect_after("nothing", true, [](OvLocaleImpl&) {});
 }
 
-TEST(LocaleCopy, TakesTheTerminalEncodingOrElseTheEncoding) {
+// From an OvLocaleImpl directly, from any other OvLocale through its interface: the terminal
+// encoding, or else the encoding, and the modifiers without their marker.
+TEST(LocaleCopy, TakesEverythingFromAnyOvLocale) {
     auto const source = distinct_locale();
     EXPECT_EQ(OvLocaleImpl(nullptr, *source).terminal_encoding(), "UTF-8");
+    EXPECT_EQ(OvLocaleImpl(nullptr, through_interface(*source)).terminal_encoding(), "UTF-8");
 
     source->set_terminal_encoding("ISO-8859-15");
-    OvLocaleImpl const copy(nullptr, *source);
-    EXPECT_EQ(copy.terminal_encoding(), "ISO-8859-15");
-    EXPECT_EQ(copy.getEncoding(), "UTF-8");
-}
-
-TEST(LocaleCopy, ReadsAnyOvLocaleThroughItsInterface) {
-    // The copy must not assume its source is an OvLocaleImpl.
-    struct foreign : OvLocale {
-        bool operator==(OvLocale const&) const override { return false; }
-        bool operator!=(OvLocale const&) const override { return true; }
-        std::string getLocaleName(LcCategory c) const override {
-            return c == messages ? "en_US_POSIX" : "pt_BR";
-        }
-        std::string getLanguage(LcCategory) const override { return "pt"; }
-        std::string getRegion(LcCategory) const override { return "BR"; }
-        std::string getModifier(LcCategory c) const override { return c == time ? "@a@@b" : ""; }
-        std::string getEncoding() const override { return "ISO-8859-1"; }
-        OvLcOptDataCtx::value_type getOptData(OvLcOptDataCtx::LcOptDataType) const override {
-            return std::string("UTF-8");
-        }
-    } const source;
-    OvLocaleImpl const copy(nullptr, source);
-    EXPECT_EQ(copy.getLocaleName(OvLocale::ctype), "pt_BR");
-    EXPECT_EQ(copy.getLocaleName(OvLocale::messages), "en_US");
-    EXPECT_EQ(copy.getModifier(OvLocale::time), "@a@@b");
-    EXPECT_EQ(copy.getModifier(OvLocale::ctype), "");
-    EXPECT_EQ(copy.getEncoding(), "ISO-8859-1");
-    EXPECT_EQ(copy.terminal_encoding(), "UTF-8");
+    OvLocaleImpl const direct(nullptr, *source);
+    OvLocaleImpl const foreign(nullptr, through_interface(*source));
+    for (OvLocaleImpl const* copy : {&direct, &foreign}) {
+        EXPECT_TRUE(*copy == *source);
+        EXPECT_EQ(copy->getModifier(OvLocale::time), "@m2");
+        EXPECT_EQ(copy->terminal_encoding(), "ISO-8859-15");
+    }
 }
 
 TEST(LocalePublish, EarlierReferencesSeeTheNewDataAndOldTextStays) {

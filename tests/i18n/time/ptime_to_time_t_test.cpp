@@ -1,7 +1,9 @@
 #include <fl/i18n/time.hpp>
 
 #include <gtest/gtest.h>
+
 #include <boost/date_time/posix_time/posix_time.hpp>
+#include "support/expect_thrown.hpp"
 
 #include <ctime>
 
@@ -42,13 +44,12 @@ TEST(PtimeToTimeT, ConvertsAndCutsToThirtyTwoBits) {
 }
 
 TEST(PtimeToTimeT, NotADateTimeIsInvalidData) {
-    try {
-        ptime_to_time_t(ptime(boost::posix_time::not_a_date_time));
-        ADD_FAILURE() << "no exception";
-    } catch (fl::i18n::date_time::invalid_data_error const& e) {
-        EXPECT_STREQ(e.what(), "fl:i18n:date_time:invalid_data_error");
-        EXPECT_EQ(e.id(), 1);
-    }
+    expect_thrown<fl::i18n::date_time::invalid_data_error>(
+        [] { ptime_to_time_t(ptime(boost::posix_time::not_a_date_time)); },
+        [](auto const& e) {
+            EXPECT_STREQ(e.what(), "fl:i18n:date_time:invalid_data_error");
+            EXPECT_EQ(e.id(), 1);
+        });
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include "i18n/lcmgmt/event_handler.hpp"
 #include "i18n/lcmgmt/startup/lcdata_parser.hpp"
 #include "support/cloned_exception.hpp"
+#include "support/expect_thrown.hpp"
 
 #include <gtest/gtest.h>
 
@@ -92,12 +93,8 @@ TEST(LcdataGrammar, ReportsWhereTheParseStopped) {
     };
     for (auto const& c : cases) {
         parsed_document doc;
-        try {
-            doc.parse(c.text);
-            ADD_FAILURE() << c.text;
-        } catch (LcRscInvalidXmlDoc const& e) {
-            EXPECT_STREQ(c.what, e.what());
-        }
+        expect_thrown<LcRscInvalidXmlDoc>([&] { doc.parse(c.text); },
+                                          [&](auto const& e) { EXPECT_STREQ(c.what, e.what()); });
     }
 }
 

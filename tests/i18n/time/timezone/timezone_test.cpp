@@ -4,8 +4,9 @@
 #include <boost/date_time/posix_time/posix_time.hpp>
 
 #include <string>
-#include <thread>
 #include <vector>
+
+#include "support/run_together.hpp"
 
 namespace {
 
@@ -92,22 +93,15 @@ TEST(Timezone, SpecialValuesGiveOrdinaryTimes) {
 }
 
 TEST(Timezone, SeparateObjectsConvertInParallel) {
-    std::vector<std::thread> threads;
-    threads.reserve(4);
     std::vector<int> failures(4, 0);
-    for (int i = 0; i < 4; ++i) {
-        threads.emplace_back([i, &failures] {
-            timezone const zone(std::string(i % 2 ? "Europe/Berlin" : "America/New_York"));
-            ptime const utc = at(2021, 7, 15, 12, 0, 0, 42);
-            ptime const local = at(2021, 7, 15, i % 2 ? 14 : 8, 0, 0, 42);
-            for (int n = 0; n < 500; ++n) {
-                failures[i] += from_utc(utc, zone) != local || to_utc(local, zone) != utc;
-            }
-        });
-    }
-    for (auto& t : threads) {
-        t.join();
-    }
+    run_together(4, [&failures](int i) {
+        timezone const zone(std::string(i % 2 ? "Europe/Berlin" : "America/New_York"));
+        ptime const utc = at(2021, 7, 15, 12, 0, 0, 42);
+        ptime const local = at(2021, 7, 15, i % 2 ? 14 : 8, 0, 0, 42);
+        for (int n = 0; n < 500; ++n) {
+            failures[i] += from_utc(utc, zone) != local || to_utc(local, zone) != utc;
+        }
+    });
     EXPECT_EQ(failures, std::vector<int>(4, 0));
 }
 

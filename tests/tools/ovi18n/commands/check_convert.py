@@ -69,6 +69,30 @@ def main(tool, tmp):
     code, out, err = run(tool, ["--from", "UTF-8", "--to", "UTF-16BE", big, small])
     expect("pieces and files", (code, out.decode("utf-16-be"), err),
            (0, "x" * (PIECE - 2) + "😀€" * 3 + "end\n", ""))
+
+    # Inputs of several pieces are cut after line feeds and decoded on several threads; the
+    # result must be what one thread decoding in order gives, bad input and its report included.
+    for enc, py, text in [("EUC-JP", "euc-jp", "Tokyo: 東京の天気は晴れ。\n"),
+                          ("Shift_JIS", "shift_jis", "Tokyo: 東京の天気は晴れ。\n"),
+                          ("UTF-8", "utf-8", "Köln 東京 😀\n"),
+                          ("GB18030", "gb18030", "Köln 东京 😀\n")]:
+        ok = text.encode(py)
+        lines = 3 * PIECE // len(ok)
+        bad = ok * lines + b"\xff" + ok * 100
+        one_line = ok.replace(b"\n", b" ") * (3 * PIECE // len(ok))
+        for what, data in [("clean", ok * lines + ok[:-1]), ("bad", bad), ("one line", one_line)]:
+            path = os.path.join(tmp, "many.txt")
+            with open(path, "wb") as f:
+                f.write(data)
+            for mode in ["stop", "replace"]:
+                args = ["--from", enc, "--to", "UTF-8", "--on-error", mode, path]
+                expect(f"{enc} {what} {mode} threads", run(tool, args),
+                       run(tool, ["--jobs", "1"] + args))
+        code, out, err = run(tool, ["--from", enc, "--to", "UTF-8"], bad)
+        expect(f"{enc} bad report", (code, out == ok.decode(py).encode() * lines, err),
+               (1, True, f"ovi18n: standard input:{lines + 1}:1: invalid {enc} input at byte "
+                         f"{len(ok) * lines}: ff\n"))
+
     code, _, err = run(tool, ["--from", "UTF-8", "--to", "UTF-8", os.path.join(tmp, "none")])
     expect("missing file", (code, err.startswith("ovi18n: ")), (1, True))
     code, out, err = run(tool, ["--from", "nonsense", "--to", "UTF-8"])
