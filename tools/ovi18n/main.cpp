@@ -22,10 +22,18 @@ void print_help(std::ostream& out) {
            "  encodings [--json]              the encodings the library can open\n"
            "  tz [ZONE] [--at TIME] [--json]  a time (ISO 8601) to and from UTC in a zone\n"
            "  ls PATH [PATTERN] [--json]      list a directory; PATTERN's only wildcard is *\n"
+           "  check [--root DIR] [--html FILE] [--json]  lint an installation's catalogs; exit 1 "
+           "on errors\n"
+           "  catalogs [--root DIR] [--json]  the catalogs of each locale and their entries\n"
+           "  message ID [ARG...] [--locale NAME] [--root DIR] [--json]  a formatted message and "
+           "the file that served it\n"
+           "  complete [PREFIX] [--root DIR] [--json]  what may follow a partly typed id\n"
            "  (convert's MODE: stop (default), replace, substitute=BYTES, escape-icu, "
            "escape-java,\n"
            "   escape-c, escape-xml-dec, escape-xml-hex, escape-unicode, escape-css2)\n"
            "  (convert's N: threads that decode, one a core by default)\n"
+           "  (DIR is an installation root, holding resources/ and derived/; by default the one\n"
+           "   this tool is installed in)\n"
            "\n"
            "options:\n"
            "  --version         print the library's version, path and build date\n"
@@ -74,6 +82,18 @@ int run(std::vector<std::string> const& args) {
     }
     if (command == "ls") {
         return ovi18n_tool::run_ls(rest);
+    }
+    if (command == "check") {
+        return ovi18n_tool::run_check(rest);
+    }
+    if (command == "catalogs") {
+        return ovi18n_tool::run_catalogs(rest);
+    }
+    if (command == "message") {
+        return ovi18n_tool::run_message(rest);
+    }
+    if (command == "complete") {
+        return ovi18n_tool::run_complete(rest);
     }
     return usage_error("unknown command '" + command + "'");
 }

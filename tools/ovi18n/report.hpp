@@ -36,6 +36,9 @@ struct report {
         return entry{std::move(key), entry::kind::object, std::string(), std::move(children)};
     }
     static entry list(std::string key, std::vector<std::string> const& items);
+    static entry array(std::string key, std::vector<entry> items) {
+        return entry{std::move(key), entry::kind::array, std::string(), std::move(items)};
+    }
 
     void print_text(std::ostream& out) const;
     void print_json(std::ostream& out) const;
