@@ -90,6 +90,9 @@ int run_check(std::vector<std::string> const& args) {
             root = args[++i];
         } else if (args[i] == "--html" && has_value) {
             html = args[++i];
+        } else if (root.empty() && !args[i].empty() && args[i][0] != '-') {
+            // "ovi18n check data" reads as naturally as --root data in a build script.
+            root = args[i];
         } else {
             return usage_error("unknown argument '" + args[i] + "'");
         }
