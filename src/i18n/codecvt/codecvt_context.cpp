@@ -3,6 +3,7 @@
 #include <fl/i18n/codecvt/codecvt_exception.hpp>
 
 #include "common/throw_exception.hpp"
+#include "i18n/codecvt/ascii_runs.hpp"
 #include "i18n/codecvt/invisible_char_call_backs.hpp"
 
 #include <utility>
@@ -46,9 +47,14 @@ codecvt_context::codecvt_context(std::string const& encoding) {
         fl::detail::throw_exception(CvtInvalidEncodingName(encoding));
     }
     converter_ = std::move(opened);
+    ascii_transparent_ = is_ascii_transparent(converter_.get());
 }
 
-codecvt_context::codecvt_context(unique_converter converter) : converter_(std::move(converter)) {}
+codecvt_context::codecvt_context(unique_converter converter) : converter_(std::move(converter)) {
+    if (converter_) {
+        ascii_transparent_ = is_ascii_transparent(converter_.get());
+    }
+}
 
 codecvt_context::~codecvt_context() = default;
 
@@ -210,6 +216,11 @@ UConverter* require_converter(codecvt_context const* context) {
         fl::detail::throw_exception(CvtConversionFailure());
     }
     return context->get();
+}
+
+converter_use require_use(codecvt_context const* context) {
+    require_converter(context);
+    return context->use();
 }
 
 }  // namespace detail

@@ -3,7 +3,8 @@
 
 #include <fl/i18n/codecvt/codecvt_call_back_mode.hpp>
 
-#include "i18n/codecvt/conversion_error.hpp"
+#include "i18n/codecvt/conversion_core.hpp"
+#include "i18n/codecvt/icu_error_family.hpp"
 #include "i18n/codecvt/unique_converter.hpp"
 
 #include <unicode/ucnv.h>
@@ -28,6 +29,7 @@ public:
     ~codecvt_context();
 
     UConverter* get() const noexcept { return converter_.get(); }
+    converter_use use() const noexcept { return {converter_.get(), ascii_transparent_}; }
 
     // substitution matters for call_back_substitute only.
     void change_from_call_back(codecvt_call_back_mode mode, std::string const& substitution);
@@ -54,10 +56,13 @@ private:
     std::string canonical_name_;
     std::string standard_name_;
     std::string const no_name_;
+    // Decided when the converter arrives, before any call-back is set (is_ascii_transparent).
+    bool ascii_transparent_ = false;
 };
 
 // The converter of a converter object's context; CvtConversionFailure when there is none.
 UConverter* require_converter(codecvt_context const* context);
+converter_use require_use(codecvt_context const* context);
 
 }  // namespace detail
 }  // namespace i18n

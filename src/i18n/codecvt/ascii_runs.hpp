@@ -1,0 +1,32 @@
+#ifndef FL_I18N_CODECVT_ASCII_RUNS_HPP
+#define FL_I18N_CODECVT_ASCII_RUNS_HPP
+
+#include <unicode/ucnv.h>
+
+#include <cstddef>
+
+namespace fl {
+namespace i18n {
+namespace detail {
+
+// Whether ASCII text may bypass ICU on this converter: its encoding is stateless (ICU's type is
+// UTF-8, US-ASCII, Latin-1 or a single-byte table) and ICU's own tables map every one of
+// 0x00-0x7F to itself in both directions. Asked once, when the converter is opened, before any
+// call-back is set; leaves the converter reset.
+bool is_ascii_transparent(UConverter* converter);
+
+// Copy the leading ASCII elements of source (at most count) to target and return how many;
+// the first element above 0x7F stops it. Written so that the compiler vectorises it.
+std::size_t copy_ascii(char const* source, std::size_t count, char16_t* target) noexcept;
+std::size_t copy_ascii(char16_t const* source, std::size_t count, char* target) noexcept;
+
+// Where the next run of at least min_run ASCII elements starts in [source, source + count),
+// or count; a run cut off by the end of the text counts whatever its length.
+std::size_t find_ascii_run(char const* source, std::size_t count, std::size_t min_run) noexcept;
+std::size_t find_ascii_run(char16_t const* source, std::size_t count, std::size_t min_run) noexcept;
+
+}  // namespace detail
+}  // namespace i18n
+}  // namespace fl
+
+#endif
