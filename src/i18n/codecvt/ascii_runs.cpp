@@ -1,6 +1,7 @@
 #include "i18n/codecvt/ascii_runs.hpp"
 
 #include <cstdint>
+#include <cstring>
 
 namespace fl {
 namespace i18n {
@@ -8,53 +9,138 @@ namespace detail {
 
 namespace {
 
-constexpr std::size_t block = 16;
 constexpr std::int32_t ascii_count = 0x80;
+// A run is worth copying past ICU from this many elements on (see find_ascii_run): a call into
+// ICU costs about as much as converting that much ASCII inside one.
+constexpr std::size_t min_run = 64;
 
-bool is_ascii(unsigned char c) noexcept {
-    return c < 0x80;
+// The high bits of 8 bytes or 4 UTF-16 units: any set bit is an element above 0x7F.
+constexpr std::uint64_t byte_high_bits = 0x8080808080808080ULL;
+constexpr std::uint64_t unit_high_bits = 0xFF80FF80FF80FF80ULL;
+
+template <class Unit>
+struct unit_traits;
+
+template <>
+struct unit_traits<char> {
+    static constexpr std::size_t per_word = 8;
+    static constexpr std::uint64_t high_bits = byte_high_bits;
+    static bool is_ascii(char c) noexcept { return static_cast<unsigned char>(c) < 0x80; }
+};
+
+template <>
+struct unit_traits<char16_t> {
+    static constexpr std::size_t per_word = 4;
+    static constexpr std::uint64_t high_bits = unit_high_bits;
+    static bool is_ascii(char16_t c) noexcept { return c < 0x80; }
+};
+
+// The high bits of the four words of a block read from source, without alignment.
+template <class Unit>
+void high_bits_of_block(Unit const* source, std::uint64_t (&bits)[4]) noexcept {
+    std::memcpy(bits, source, sizeof bits);
+    for (std::uint64_t& word : bits) {
+        word &= unit_traits<Unit>::high_bits;
+    }
 }
 
-bool is_ascii(char c) noexcept {
-    return static_cast<unsigned char>(c) < 0x80;
+template <class Unit>
+bool is_ascii_block(Unit const* source) noexcept {
+    std::uint64_t bits[4];
+    high_bits_of_block(source, bits);
+    return (bits[0] | bits[1] | bits[2] | bits[3]) == 0;
 }
 
-bool is_ascii(char16_t c) noexcept {
-    return c < 0x80;
+template <class Unit>
+constexpr std::size_t block_of() noexcept {
+    return 4 * unit_traits<Unit>::per_word;
 }
 
-// Blocks of 16 are tested and copied whole, each a fixed-length loop the compiler turns into
-// vector instructions; the tail and the block holding the first non-ASCII element go one by one.
-template <class From, class To>
-std::size_t copy_run(From const* source, std::size_t count, To* target) noexcept {
-    std::size_t i = 0;
-    for (; i + block <= count; i += block) {
-        unsigned bits = 0;
-        for (std::size_t k = 0; k < block; ++k) {
-            bits |= static_cast<unsigned>(source[i + k]) & ~0x7Fu;
-        }
-        if (bits != 0) {
-            break;
-        }
-        for (std::size_t k = 0; k < block; ++k) {
-            target[i + k] = static_cast<To>(source[i + k]);
+// How many elements of a block come before its first non-ASCII one. The words are read as
+// stored, lowest address in the lowest bits, as on every target of this library.
+template <class Unit>
+std::size_t ascii_prefix_of_block(Unit const* source) noexcept {
+    static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__, "words are read little-endian");
+    std::uint64_t bits[4];
+    high_bits_of_block(source, bits);
+    for (std::size_t k = 0; k < 4; ++k) {
+        if (bits[k] != 0) {
+            return k * unit_traits<Unit>::per_word +
+                   static_cast<std::size_t>(__builtin_ctzll(bits[k])) / (8 * sizeof(Unit));
         }
     }
-    for (; i < count && is_ascii(source[i]); ++i) {
+    return block_of<Unit>();
+}
+
+// Whole blocks are converted through local arrays, so that the compiler sees no aliasing and
+// turns the fixed-length loops into vector instructions; of the block that holds the first
+// non-ASCII element only the part before it is stored. The tail goes one by one.
+template <class From, class To>
+std::size_t copy_run(From const* source, std::size_t count, To* target) noexcept {
+    constexpr std::size_t block = block_of<From>();
+    std::size_t i = 0;
+    for (; i + block <= count; i += block) {
+        From in[block];
+        To out[block];
+        std::memcpy(in, source + i, sizeof in);
+        for (std::size_t k = 0; k < block; ++k) {
+            out[k] = static_cast<To>(in[k]);
+        }
+        std::size_t const ascii = ascii_prefix_of_block(source + i);
+        std::memcpy(target + i, out, ascii * sizeof(To));
+        if (ascii != block) {
+            return i + ascii;
+        }
+    }
+    for (; i < count && unit_traits<From>::is_ascii(source[i]); ++i) {
         target[i] = static_cast<To>(source[i]);
     }
     return i;
 }
 
+// Where the block's last non-ASCII element stands; the block must hold one.
 template <class Unit>
-std::size_t find_run(Unit const* source, std::size_t count, std::size_t min_run) noexcept {
-    std::size_t run = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        if (!is_ascii(source[i])) {
-            run = 0;
-        } else if (++run == min_run) {
-            return i + 1 - min_run;
+std::size_t last_non_ascii_of_block(Unit const* source) noexcept {
+    std::uint64_t bits[4];
+    high_bits_of_block(source, bits);
+    std::size_t k = 3;
+    while (k > 0 && bits[k] == 0) {
+        --k;
+    }
+    return k * unit_traits<Unit>::per_word +
+           static_cast<std::size_t>(63 - __builtin_clzll(bits[k])) / (8 * sizeof(Unit));
+}
+
+// The start of the first ASCII run of min_run elements or more that holds a whole block, or of
+// the ASCII run that ends the text. Blocks are probed whole, one test each, and only a clean
+// block looks back for where its run began, so the search costs little beside ICU's own work.
+// Where ICU stops changes nothing in the result, only how much of the text it converts.
+template <class Unit>
+std::size_t find_run(Unit const* source, std::size_t count) noexcept {
+    constexpr std::size_t block = block_of<Unit>();
+    bool in_run = false;
+    std::size_t run_start = 0;
+    std::size_t i = 0;
+    for (; i + block <= count; i += block) {
+        if (!is_ascii_block(source + i)) {
+            // A run that holds a clean block may still reach its length in this one.
+            if (in_run && i + ascii_prefix_of_block(source + i) - run_start >= min_run) {
+                return run_start;
+            }
+            in_run = false;
+            continue;
         }
+        if (!in_run) {
+            in_run = true;
+            run_start = i == 0 ? 0 : i - block + last_non_ascii_of_block(source + i - block) + 1;
+        }
+        if (i + block - run_start >= min_run) {
+            return run_start;
+        }
+    }
+    std::size_t run = in_run ? i - run_start : 0;
+    for (; i < count; ++i) {
+        run = unit_traits<Unit>::is_ascii(source[i]) ? run + 1 : 0;
     }
     return count - run;
 }
@@ -97,20 +183,20 @@ bool is_ascii_transparent(UConverter* converter) {
 }
 
 std::size_t copy_ascii(char const* source, std::size_t count, char16_t* target) noexcept {
-    return copy_run(reinterpret_cast<unsigned char const*>(source), count, target);
+    // Only ASCII is ever stored, so the sign of char does not matter.
+    return copy_run(source, count, target);
 }
 
 std::size_t copy_ascii(char16_t const* source, std::size_t count, char* target) noexcept {
     return copy_run(source, count, target);
 }
 
-std::size_t find_ascii_run(char const* source, std::size_t count, std::size_t min_run) noexcept {
-    return find_run(source, count, min_run);
+std::size_t find_ascii_run(char const* source, std::size_t count) noexcept {
+    return find_run(source, count);
 }
 
-std::size_t find_ascii_run(char16_t const* source, std::size_t count,
-                           std::size_t min_run) noexcept {
-    return find_run(source, count, min_run);
+std::size_t find_ascii_run(char16_t const* source, std::size_t count) noexcept {
+    return find_run(source, count);
 }
 
 }  // namespace detail

@@ -20,10 +20,11 @@ bool is_ascii_transparent(UConverter* converter);
 std::size_t copy_ascii(char const* source, std::size_t count, char16_t* target) noexcept;
 std::size_t copy_ascii(char16_t const* source, std::size_t count, char* target) noexcept;
 
-// Where the next run of at least min_run ASCII elements starts in [source, source + count),
-// or count; a run cut off by the end of the text counts whatever its length.
-std::size_t find_ascii_run(char const* source, std::size_t count, std::size_t min_run) noexcept;
-std::size_t find_ascii_run(char16_t const* source, std::size_t count, std::size_t min_run) noexcept;
+// Where, in [source, source + count), a run of ASCII starts that is worth copying past ICU: 32
+// bytes or 16 units at least, or the run that ends the text; count when there is none. A call
+// into ICU costs more than converting a few characters inside one.
+std::size_t find_ascii_run(char const* source, std::size_t count) noexcept;
+std::size_t find_ascii_run(char16_t const* source, std::size_t count) noexcept;
 
 }  // namespace detail
 }  // namespace i18n

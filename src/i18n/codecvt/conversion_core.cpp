@@ -13,9 +13,6 @@ namespace {
 
 // Measuring counts in a scratch of this size, rewound whenever it fills.
 constexpr std::size_t scratch_units = 1024;
-// An ASCII run shorter than this stays with ICU and the text around it: a call into ICU costs
-// more than converting a few characters inside one.
-constexpr std::size_t min_ascii_run = 16;
 // Room for what ICU holds back in its own buffers when the target fills.
 constexpr std::size_t growth_slack = 16;
 
@@ -184,7 +181,7 @@ void run(converter_use use, typename Direction::from const* source, std::size_t 
         // ICU takes the rest up to the next long ASCII run and the first element of that run:
         // an ASCII element ends any sequence that ICU held open, so no state is pending when
         // the run is copied and the results are those of one call over the whole text.
-        std::size_t const next = find_ascii_run(read, left - copied, min_ascii_run);
+        std::size_t const next = find_ascii_run(read, left - copied);
         From const* const segment_end = read + std::min(next + 1, left - copied);
         call_icu<Direction>(use, read, segment_end, source_end, sink, family);
     }
