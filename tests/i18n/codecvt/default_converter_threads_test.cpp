@@ -77,5 +77,22 @@ TEST(default_converter, each_thread_has_its_own_copy_closed_at_thread_end) {
     EXPECT_EQ(lcctype::code_converter_context::alive.load(), before);
 }
 
+// A conversion from a thread's own exit, after its copy is closed, works on a clone.
+TEST(default_converter, converts_while_the_thread_exits) {
+    struct converts_at_exit {
+        ustring* out;
+        ~converts_at_exit() { *out = to_ustring("bye"); }
+    };
+    detail::default_converter_master();
+    long const before = lcctype::code_converter_context::alive.load();
+    ustring said;
+    std::thread([&said] {
+        thread_local converts_at_exit last{&said};
+        static_cast<void>(to_ustring("hi"));  // made after last, so closed before it goes
+    }).join();
+    EXPECT_EQ(said, u"bye");
+    EXPECT_EQ(lcctype::code_converter_context::alive.load(), before);
+}
+
 }  // namespace
 }  // namespace fl::i18n
