@@ -45,6 +45,13 @@ void high_bits_of_block(Unit const* source, std::uint64_t (&bits)[4]) noexcept {
 }
 
 template <class Unit>
+bool is_ascii_word(Unit const* source) noexcept {
+    std::uint64_t word;
+    std::memcpy(&word, source, sizeof word);
+    return (word & unit_traits<Unit>::high_bits) == 0;
+}
+
+template <class Unit>
 bool is_ascii_block(Unit const* source) noexcept {
     std::uint64_t bits[4];
     high_bits_of_block(source, bits);
@@ -122,7 +129,9 @@ std::size_t find_run(Unit const* source, std::size_t count) noexcept {
     std::size_t run_start = 0;
     std::size_t i = 0;
     for (; i + block <= count; i += block) {
-        if (!is_ascii_block(source + i)) {
+        // The first word is tested alone first: in text that is not ASCII it mostly settles
+        // the block with one load.
+        if (!is_ascii_word(source + i) || !is_ascii_block(source + i)) {
             // A run that holds a clean block may still reach its length in this one.
             if (in_run && i + ascii_prefix_of_block(source + i) - run_start >= min_run) {
                 return run_start;
