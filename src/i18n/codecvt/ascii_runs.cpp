@@ -84,24 +84,27 @@ std::size_t ascii_prefix_of_block(Unit const* source) noexcept {
     return block_of<Unit>();
 }
 
-// Whole blocks are converted through local arrays, so that the compiler sees no aliasing and
-// turns the fixed-length loops into vector instructions; of the block that holds the first
-// non-ASCII element only the part before it is stored. The tail goes one by one.
+// Whole blocks are tested with word arithmetic and converted from a local copy, so that the
+// compiler sees no aliasing and turns the fixed-length loops into vector instructions; of the
+// block that holds the first non-ASCII element only the part before it is stored. The tail goes
+// one by one.
 template <class From, class To>
 std::size_t copy_run(From const* source, std::size_t count, To* target) noexcept {
     constexpr std::size_t block = block_of<From>();
     std::size_t i = 0;
     for (; i + block <= count; i += block) {
+        std::size_t const ascii =
+            is_ascii_block(source + i) ? block : ascii_prefix_of_block(source + i);
         From in[block];
-        To out[block];
         std::memcpy(in, source + i, sizeof in);
-        for (std::size_t k = 0; k < block; ++k) {
-            out[k] = static_cast<To>(in[k]);
-        }
-        std::size_t const ascii = ascii_prefix_of_block(source + i);
-        std::memcpy(target + i, out, ascii * sizeof(To));
         if (ascii != block) {
+            for (std::size_t k = 0; k < ascii; ++k) {
+                target[i + k] = static_cast<To>(in[k]);
+            }
             return i + ascii;
+        }
+        for (std::size_t k = 0; k < block; ++k) {
+            target[i + k] = static_cast<To>(in[k]);
         }
     }
     for (; i < count && unit_traits<From>::is_ascii(source[i]); ++i) {
