@@ -58,9 +58,12 @@ bool is_ascii_word(Unit const* source) noexcept {
 
 template <class Unit>
 bool is_ascii_block(Unit const* source) noexcept {
-    std::uint64_t bits[4];
-    high_bits_of_block(source, bits);
-    return (bits[0] | bits[1] | bits[2] | bits[3]) == 0;
+    std::uint64_t a, b, c, d;
+    std::memcpy(&a, source, sizeof a);
+    std::memcpy(&b, source + unit_traits<Unit>::per_word, sizeof b);
+    std::memcpy(&c, source + 2 * unit_traits<Unit>::per_word, sizeof c);
+    std::memcpy(&d, source + 3 * unit_traits<Unit>::per_word, sizeof d);
+    return ((a | b | c | d) & unit_traits<Unit>::high_bits) == 0;
 }
 
 template <class Unit>
@@ -84,27 +87,25 @@ std::size_t ascii_prefix_of_block(Unit const* source) noexcept {
     return block_of<Unit>();
 }
 
-// Whole blocks are tested with word arithmetic and converted from a local copy, so that the
-// compiler sees no aliasing and turns the fixed-length loops into vector instructions; of the
+// Whole blocks are tested with word arithmetic and converted by a fixed-length loop that the
+// compiler turns into vector instructions (source and target never overlap, and say so); of the
 // block that holds the first non-ASCII element only the part before it is stored. The tail goes
 // one by one.
 template <class From, class To>
-std::size_t copy_run(From const* source, std::size_t count, To* target) noexcept {
+std::size_t copy_run(From const* __restrict source, std::size_t count,
+                     To* __restrict target) noexcept {
     constexpr std::size_t block = block_of<From>();
     std::size_t i = 0;
     for (; i + block <= count; i += block) {
-        std::size_t const ascii =
-            is_ascii_block(source + i) ? block : ascii_prefix_of_block(source + i);
-        From in[block];
-        std::memcpy(in, source + i, sizeof in);
-        if (ascii != block) {
+        if (!is_ascii_block(source + i)) {
+            std::size_t const ascii = ascii_prefix_of_block(source + i);
             for (std::size_t k = 0; k < ascii; ++k) {
-                target[i + k] = static_cast<To>(in[k]);
+                target[i + k] = static_cast<To>(source[i + k]);
             }
             return i + ascii;
         }
         for (std::size_t k = 0; k < block; ++k) {
-            target[i + k] = static_cast<To>(in[k]);
+            target[i + k] = static_cast<To>(source[i + k]);
         }
     }
     for (; i < count && unit_traits<From>::is_ascii(source[i]); ++i) {
