@@ -173,6 +173,36 @@ std::size_t find_run(Unit const* source, std::size_t count) noexcept {
     return count - run;
 }
 
+// A table-driven single-byte converter may map a sequence of characters to one (its extension
+// table); ICU then holds a character back, unconverted, to see what follows. The conversion core
+// hands ICU text that ends in an ASCII element and copies the next run itself, which is right
+// only if ICU never holds an ASCII element back: each is fed alone, without flushing.
+bool holds_no_ascii_back(UConverter* converter) {
+    bool none = true;
+    for (std::int32_t c = 0; none && c < ascii_count; ++c) {
+        char const byte = static_cast<char>(c);
+        char const* byte_source = &byte;
+        UChar unit_out[2];
+        UChar* unit_target = unit_out;
+        UErrorCode error = U_ZERO_ERROR;
+        ucnv_toUnicode(converter, &unit_target, unit_out + 2, &byte_source, &byte + 1, nullptr,
+                       false, &error);
+        none = error <= U_ZERO_ERROR && unit_target == unit_out + 1 &&
+               ucnv_toUCountPending(converter, &error) == 0;
+        UChar const unit = static_cast<UChar>(c);
+        UChar const* unit_source = &unit;
+        char byte_out[2];
+        char* byte_target = byte_out;
+        error = U_ZERO_ERROR;
+        ucnv_fromUnicode(converter, &byte_target, byte_out + 2, &unit_source, &unit + 1, nullptr,
+                         false, &error);
+        none = none && error <= U_ZERO_ERROR && byte_target == byte_out + 1 &&
+               ucnv_fromUCountPending(converter, &error) == 0;
+        ucnv_reset(converter);
+    }
+    return none;
+}
+
 }  // namespace
 
 bool is_ascii_transparent(UConverter* converter) {
@@ -207,7 +237,7 @@ bool is_ascii_transparent(UConverter* converter) {
         same = decoded[c] == units[c] && encoded[c] == bytes[c];
     }
     ucnv_reset(converter);
-    return same;
+    return same && (ucnv_getType(converter) != UCNV_SBCS || holds_no_ascii_back(converter));
 }
 
 std::size_t copy_ascii(char const* source, std::size_t count, char16_t* target) noexcept {
