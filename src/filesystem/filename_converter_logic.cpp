@@ -24,7 +24,8 @@ fl::i18n::detail::converter_use converter_of(codecvt_context const* context) {
 }
 
 context_pointer make_default_context() {
-    return std::make_unique<codecvt_context>(fl::i18n::detail::clone_default_converter());
+    fl::i18n::detail::converter_use_owned cloned = fl::i18n::detail::clone_default_converter_use();
+    return std::make_unique<codecvt_context>(std::move(cloned.converter), cloned.ascii_transparent);
 }
 
 }  // namespace

@@ -40,21 +40,18 @@ char const* escape_option(codecvt_call_back_mode mode) {
 
 }  // namespace
 
-codecvt_context::codecvt_context(std::string const& encoding) {
+codecvt_context::codecvt_context(std::string const& encoding, bool ascii_runs) {
     UErrorCode error = U_ZERO_ERROR;
     unique_converter opened(ucnv_open(encoding.c_str(), &error));
     if (error > U_ZERO_ERROR || !opened) {
         fl::detail::throw_exception(CvtInvalidEncodingName(encoding));
     }
     converter_ = std::move(opened);
-    ascii_transparent_ = is_ascii_transparent(converter_.get());
+    ascii_transparent_ = ascii_runs && is_ascii_transparent(converter_.get());
 }
 
-codecvt_context::codecvt_context(unique_converter converter) : converter_(std::move(converter)) {
-    if (converter_) {
-        ascii_transparent_ = is_ascii_transparent(converter_.get());
-    }
-}
+codecvt_context::codecvt_context(unique_converter converter, bool ascii_transparent)
+    : converter_(std::move(converter)), ascii_transparent_(ascii_transparent) {}
 
 codecvt_context::~codecvt_context() = default;
 

@@ -20,10 +20,12 @@ namespace detail {
 // Leaving a non-default mode always restores the call-back that the mode replaced.
 class codecvt_context {
 public:
-    // Opens the named converter; an unknown name throws CvtInvalidEncodingName.
-    explicit codecvt_context(std::string const& encoding);
-    // Adopts a converter that the caller opened or cloned.
-    explicit codecvt_context(unique_converter converter);
+    // Opens the named converter; an unknown name throws CvtInvalidEncodingName. ascii_runs
+    // false keeps all of the text with ICU (a stream converter's state must see every byte);
+    // otherwise is_ascii_transparent decides.
+    explicit codecvt_context(std::string const& encoding, bool ascii_runs = true);
+    // Adopts a converter that the caller opened or cloned, with what is known of its encoding.
+    codecvt_context(unique_converter converter, bool ascii_transparent);
     codecvt_context(codecvt_context const&) = delete;
     codecvt_context& operator=(codecvt_context const&) = delete;
     ~codecvt_context();

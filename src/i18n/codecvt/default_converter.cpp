@@ -86,8 +86,9 @@ code_converter_context* thread_copy_to_lend() {
     if (thread_copy.copy == nullptr) {
         // Using the closer registers its destructor for this thread.
         static_cast<void>(&closer_at_thread_end);
-        auto fresh = std::make_unique<code_converter_context>(clone_default_converter());
-        fresh->ascii_transparent = default_encoding_is_ascii_transparent();
+        converter_use_owned cloned = clone_default_converter_use();
+        auto fresh = std::make_unique<code_converter_context>(std::move(cloned.converter));
+        fresh->ascii_transparent = cloned.ascii_transparent;
         thread_copy.copy = fresh.release();
     }
     return thread_copy.copy;
@@ -103,12 +104,13 @@ bool default_encoding_is_ascii_transparent() {
     return master_record().ascii_transparent;
 }
 
-unique_converter clone_default_converter() {
-    if (UConverter const* const original = default_converter_master()) {
+converter_use_owned clone_default_converter_use() {
+    code_converter_context const& record = master_record();
+    if (UConverter const* const original = record.converter.get()) {
         UErrorCode error = U_ZERO_ERROR;
         unique_converter copy(clone(original, error));
         if (error <= U_ZERO_ERROR && copy) {
-            return copy;
+            return {std::move(copy), record.ascii_transparent};
         }
     }
     UErrorCode error = U_ZERO_ERROR;
@@ -116,7 +118,12 @@ unique_converter clone_default_converter() {
     if (error > U_ZERO_ERROR || !opened) {
         fl::detail::throw_exception(CvtConversionFailure());
     }
-    return opened;
+    bool const ascii_transparent = is_ascii_transparent(opened.get());
+    return {std::move(opened), ascii_transparent};
+}
+
+unique_converter clone_default_converter() {
+    return clone_default_converter_use().converter;
 }
 
 lent_default_converter::lent_default_converter() : use_{nullptr, false} {
@@ -125,10 +132,9 @@ lent_default_converter::lent_default_converter() : use_{nullptr, false} {
         use_ = converter_use{copy->converter.get(), copy->ascii_transparent};
         return;
     }
-    clone_ = clone_default_converter();
-    // A clone may have come from the encoding as it is now, if the master could not be had;
-    // it is asked for itself.
-    use_ = converter_use{clone_.get(), is_ascii_transparent(clone_.get())};
+    converter_use_owned cloned = clone_default_converter_use();
+    clone_ = std::move(cloned.converter);
+    use_ = converter_use{clone_.get(), cloned.ascii_transparent};
 }
 
 lent_default_converter::~lent_default_converter() {
