@@ -24,8 +24,10 @@ fl::i18n::detail::converter_use converter_of(codecvt_context const* context) {
 }
 
 context_pointer make_default_context() {
-    fl::i18n::detail::converter_use_owned cloned = fl::i18n::detail::clone_default_converter_use();
-    return std::make_unique<codecvt_context>(std::move(cloned.converter), cloned.ascii_transparent);
+    bool ascii_transparent = false;
+    fl::i18n::detail::unique_converter clone =
+        fl::i18n::detail::clone_default_converter(&ascii_transparent);
+    return std::make_unique<codecvt_context>(std::move(clone), ascii_transparent);
 }
 
 }  // namespace

@@ -86,9 +86,10 @@ code_converter_context* thread_copy_to_lend() {
     if (thread_copy.copy == nullptr) {
         // Using the closer registers its destructor for this thread.
         static_cast<void>(&closer_at_thread_end);
-        converter_use_owned cloned = clone_default_converter_use();
-        auto fresh = std::make_unique<code_converter_context>(std::move(cloned.converter));
-        fresh->ascii_transparent = cloned.ascii_transparent;
+        bool ascii_transparent = false;
+        auto fresh =
+            std::make_unique<code_converter_context>(clone_default_converter(&ascii_transparent));
+        fresh->ascii_transparent = ascii_transparent;
         thread_copy.copy = fresh.release();
     }
     return thread_copy.copy;
@@ -104,13 +105,16 @@ bool default_encoding_is_ascii_transparent() {
     return master_record().ascii_transparent;
 }
 
-converter_use_owned clone_default_converter_use() {
+unique_converter clone_default_converter(bool* ascii_transparent) {
     code_converter_context const& record = master_record();
     if (UConverter const* const original = record.converter.get()) {
         UErrorCode error = U_ZERO_ERROR;
         unique_converter copy(clone(original, error));
         if (error <= U_ZERO_ERROR && copy) {
-            return {std::move(copy), record.ascii_transparent};
+            if (ascii_transparent != nullptr) {
+                *ascii_transparent = record.ascii_transparent;
+            }
+            return copy;
         }
     }
     UErrorCode error = U_ZERO_ERROR;
@@ -118,12 +122,10 @@ converter_use_owned clone_default_converter_use() {
     if (error > U_ZERO_ERROR || !opened) {
         fl::detail::throw_exception(CvtConversionFailure());
     }
-    bool const ascii_transparent = is_ascii_transparent(opened.get());
-    return {std::move(opened), ascii_transparent};
-}
-
-unique_converter clone_default_converter() {
-    return clone_default_converter_use().converter;
+    if (ascii_transparent != nullptr) {
+        *ascii_transparent = is_ascii_transparent(opened.get());
+    }
+    return opened;
 }
 
 lent_default_converter::lent_default_converter() : use_{nullptr, false} {
@@ -132,9 +134,9 @@ lent_default_converter::lent_default_converter() : use_{nullptr, false} {
         use_ = converter_use{copy->converter.get(), copy->ascii_transparent};
         return;
     }
-    converter_use_owned cloned = clone_default_converter_use();
-    clone_ = std::move(cloned.converter);
-    use_ = converter_use{clone_.get(), cloned.ascii_transparent};
+    bool ascii_transparent = false;
+    clone_ = clone_default_converter(&ascii_transparent);
+    use_ = converter_use{clone_.get(), ascii_transparent};
 }
 
 lent_default_converter::~lent_default_converter() {

@@ -10,11 +10,6 @@ namespace fl {
 namespace i18n {
 namespace detail {
 
-struct converter_use_owned {
-    unique_converter converter;
-    bool ascii_transparent;
-};
-
 // The encoding of the global locale, fixed at the first call in the process. Borrowed; null
 // when ICU could not open that encoding.
 UConverter* default_converter_master();
@@ -24,13 +19,10 @@ UConverter* default_converter_master();
 bool default_encoding_is_ascii_transparent();
 
 // A private converter on the default encoding for one object. Throws CvtConversionFailure
-// when none can be had.
-unique_converter clone_default_converter();
-
-// The same with what is known of it: default_encoding_is_ascii_transparent for a clone of the
-// master, is_ascii_transparent asked anew for the encoding opened when the master can't be
-// cloned.
-converter_use_owned clone_default_converter_use();
+// when none can be had. ascii_transparent, when given, receives what is known of it: the
+// master's answer for a clone, is_ascii_transparent asked anew for the encoding opened when the
+// master can't be cloned.
+unique_converter clone_default_converter(bool* ascii_transparent = nullptr);
 
 // Lends the calling thread's own converter on the default encoding for the life of the object
 // and resets it when the object goes, on every way out, so the next user finds it fresh. The
