@@ -7,16 +7,16 @@ namespace i18n {
 namespace detail {
 namespace platform {
 
-char const* environment_value(std::string const& name) {
-    return std::getenv(name.c_str());
+char const* environment_value(char const* name) {
+    return std::getenv(name);
 }
 
-int set_environment_value(std::string const& name, std::string const& value, int overwrite) {
-    return ::setenv(name.c_str(), value.c_str(), overwrite);
+int set_environment_value(char const* name, char const* value, int overwrite) {
+    return ::setenv(name, value, overwrite);
 }
 
-int unset_environment_value(std::string const& name) {
-    return ::unsetenv(name.c_str());
+int unset_environment_value(char const* name) {
+    return ::unsetenv(name);
 }
 
 }  // namespace platform

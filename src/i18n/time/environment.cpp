@@ -20,7 +20,7 @@ ustring getenv(std::string const& name) {
         errno = EINVAL;
         return ustring();
     }
-    char const* const value = detail::platform::environment_value(name);
+    char const* const value = detail::platform::environment_value(name.c_str());
     if (value == nullptr) {
         return ustring();
     }
@@ -40,7 +40,7 @@ int setenv(std::string const& name, ustring const& value, int overwrite, bool al
         bytes = detail::from_ustring(lent.use(), value.data(), value.size(),
                                      detail::bounded_conversion_errors);
     }
-    return detail::platform::set_environment_value(name, bytes, overwrite);
+    return detail::platform::set_environment_value(name.c_str(), bytes.c_str(), overwrite);
 }
 
 int unsetenv(std::string const& name) {
@@ -48,7 +48,7 @@ int unsetenv(std::string const& name) {
         errno = EINVAL;
         return -1;
     }
-    return detail::platform::unset_environment_value(name);
+    return detail::platform::unset_environment_value(name.c_str());
 }
 
 }  // namespace i18n
