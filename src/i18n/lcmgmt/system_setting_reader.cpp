@@ -5,7 +5,6 @@
 #include "platform/c_library_locale.hpp"
 #include "platform/process_environment.hpp"
 
-
 namespace fl {
 namespace i18n {
 namespace lcmgmt {
