@@ -1,7 +1,7 @@
 #ifndef FL_I18N_CODECVT_CODE_CONVERTER_CONTEXT_HPP
 #define FL_I18N_CODECVT_CODE_CONVERTER_CONTEXT_HPP
 
-#include "i18n/codecvt/unique_converter.hpp"
+#include "common/unique_converter.hpp"
 
 #include <atomic>
 #include <string>

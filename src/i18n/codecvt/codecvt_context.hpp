@@ -3,9 +3,9 @@
 
 #include <fl/i18n/codecvt/codecvt_call_back_mode.hpp>
 
+#include "common/unique_converter.hpp"
 #include "i18n/codecvt/conversion_core.hpp"
 #include "i18n/codecvt/icu_error_family.hpp"
-#include "i18n/codecvt/unique_converter.hpp"
 
 #include <unicode/ucnv.h>
 #include <unicode/ucnv_err.h>

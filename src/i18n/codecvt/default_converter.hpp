@@ -1,8 +1,8 @@
 #ifndef FL_I18N_CODECVT_DEFAULT_CONVERTER_HPP
 #define FL_I18N_CODECVT_DEFAULT_CONVERTER_HPP
 
+#include "common/unique_converter.hpp"
 #include "i18n/codecvt/conversion_core.hpp"
-#include "i18n/codecvt/unique_converter.hpp"
 
 #include <unicode/ucnv.h>
 

@@ -1,7 +1,7 @@
 #ifndef FL_I18N_CODECVT_LENT_CONVERTER_HPP
 #define FL_I18N_CODECVT_LENT_CONVERTER_HPP
 
-#include "i18n/codecvt/unique_converter.hpp"
+#include "common/unique_converter.hpp"
 
 #include <unicode/ucnv.h>
 

@@ -1,7 +1,7 @@
 #include "i18n/facet/widen_table.hpp"
 
+#include "common/unique_converter.hpp"
 #include "i18n/codecvt/icu_error_family.hpp"
-#include "i18n/codecvt/unique_converter.hpp"
 
 #include <unicode/ucnv.h>
 
