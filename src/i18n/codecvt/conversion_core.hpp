@@ -24,7 +24,10 @@ struct converter_use {
 
 // The one conversion loop of each direction. ICU is called with the text in chunks that fit
 // its 32-bit counts, writing straight into the result; a result that runs out of room grows
-// and the conversion goes on where it stopped. Substitutions are what the converter's
+// and the conversion goes on where it stopped. ICU converts a text the same whether its output
+// goes to one buffer or to several in turn (what does not fit waits inside the converter), so
+// this gives the text and the length that a measuring pass and an exact second pass gave, and
+// what one ICU call over the whole text gives. Substitutions are what the converter's
 // call-backs make them; failures go through raise_icu_error with the family. The converter is
 // left reset, also when this throws, so no state carries over to the next text.
 
