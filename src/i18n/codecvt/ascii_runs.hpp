@@ -20,9 +20,10 @@ bool is_ascii_transparent(UConverter* converter);
 std::size_t copy_ascii(char const* source, std::size_t count, char16_t* target) noexcept;
 std::size_t copy_ascii(char16_t const* source, std::size_t count, char* target) noexcept;
 
-// Where, in [source, source + count), a run of ASCII starts that is worth copying past ICU: 32
-// bytes or 16 units at least, or the run that ends the text; count when there is none. A call
-// into ICU costs more than converting a few characters inside one.
+// Where ICU should stop in [source, source + count): at the start of an ASCII run worth copying
+// past ICU (64 elements or more, or the run that ends the text), or, when a bounded search finds
+// none, at an ASCII element further on; count when there is none. Always count or the position
+// of an ASCII element, so that ICU, given that element too, holds nothing back.
 std::size_t find_ascii_run(char const* source, std::size_t count) noexcept;
 std::size_t find_ascii_run(char16_t const* source, std::size_t count) noexcept;
 
