@@ -13,6 +13,7 @@
 #include <unicode/ucnv.h>
 #include <unicode/ustring.h>
 
+#include <cstdlib>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -23,16 +24,19 @@ namespace {
 using fl::i18n::ustring;
 
 // The default encoding is fixed by the first conversion in the process, and start-up is what
-// would make it UTF-8. Without start-up, the global locale is swapped for a UTF-8 copy before
-// anything converts.
-void make_default_encoding_utf8() {
+// would set it. Without start-up, the global locale is swapped for a copy on the wanted
+// encoding before anything converts: UTF-8, or OVI18N_BENCH_DEFAULT_ENCODING when that is set.
+std::string make_default_encoding() {
+    char const* const wanted = std::getenv("OVI18N_BENCH_DEFAULT_ENCODING");
+    std::string const encoding = wanted != nullptr && *wanted != '\0' ? wanted : "UTF-8";
     auto& context = fl::i18n::lcmgmt::manager_context::instance();
-    static fl::i18n::OvLocaleImpl utf8(&context.database(), *context.global_locale.load());
-    utf8.set_encoding("UTF-8");
-    context.global_locale = &utf8;
-    if (fl::i18n::to_ustring("\xC3\xA9") != u"\u00E9") {
-        throw std::runtime_error("the default encoding did not become UTF-8");
+    static fl::i18n::OvLocaleImpl copy(&context.database(), *context.global_locale.load());
+    copy.set_encoding(encoding);
+    context.global_locale = &copy;
+    if (fl::i18n::to_ustring("\xA4\xA2") != (encoding == "UTF-8" ? u"\uFFFD\uFFFD" : u"\u3042")) {
+        throw std::runtime_error("the default encoding did not change");
     }
+    return encoding;
 }
 
 struct converter_deleter {
@@ -46,6 +50,19 @@ icu_converter open_icu(char const* encoding) {
     if (U_FAILURE(error))
         throw std::runtime_error(encoding);
     return c;
+}
+
+// English prose with a few accented words, nearly all ASCII.
+ustring prose(std::size_t bytes) {
+    ustring const piece =
+        u"The committee met on Tuesday to review the budget for the coming year, and after a "
+        u"long discussion about the caf\u00E9 on the ground floor it agreed to keep the opening "
+        u"hours as they are. A r\u00E9sum\u00E9 of the meeting will follow next week. ";
+    ustring text;
+    while (text.size() + piece.size() <= bytes) {
+        text += piece;
+    }
+    return text;
 }
 
 // Realistic mixed text: English, accented Latin (where the encoding has it) and Japanese.
@@ -100,13 +117,16 @@ std::size_t run_iconv(iconv_t cd, char const* in, std::size_t in_size, Out& out)
     return (capacity - left) / sizeof(out[0]);
 }
 
-void register_encoding(char const* encoding, char const* iconv_name, bool is_default) {
-    for (std::size_t const size : {32u, 1024u, 65536u, 1048576u}) {
-        auto const text = std::make_shared<ustring>(sample(encoding, size));
+void register_encoding(char const* encoding, char const* iconv_name, bool is_default,
+                       char const* label = nullptr,
+                       std::vector<std::size_t> const& sizes = {32u, 1024u, 65536u, 1048576u}) {
+    std::string const name = label != nullptr ? label : encoding;
+    for (std::size_t const size : sizes) {
+        auto const text = std::make_shared<ustring>(label != nullptr ? prose(size)
+                                                                     : sample(encoding, size));
         auto const bytes = std::make_shared<std::string>(encode(encoding, *text));
-        std::string const decode = "decode/" + std::string(encoding) + "/" + std::to_string(size);
-        std::string const encode_name =
-            "encode/" + std::string(encoding) + "/" + std::to_string(size);
+        std::string const decode = "decode/" + name + "/" + std::to_string(size);
+        std::string const encode_name = "encode/" + name + "/" + std::to_string(size);
         auto set_bytes = [](benchmark::State& state, std::size_t n) {
             state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * n));
         };
@@ -219,26 +239,31 @@ void register_encoding(char const* encoding, char const* iconv_name, bool is_def
     }
 }
 
-void register_threads() {
-    auto const bytes = std::make_shared<std::string>(encode("UTF-8", sample("UTF-8", 1024)));
-    benchmark::RegisterBenchmark(
-        "threads/UTF-8/1024/to_ustring",
-        [=](benchmark::State& s) {
-            for (auto _ : s) {
-                benchmark::DoNotOptimize(fl::i18n::to_ustring(*bytes));
-            }
-            s.SetBytesProcessed(static_cast<int64_t>(s.iterations() * bytes->size()));
-        })
-        ->Threads(1)
-        ->Threads(2)
-        ->UseRealTime();
+// The default-encoding functions from one and two threads at once.
+void register_threads(std::string const& encoding) {
+    for (std::size_t const size : {32u, 1024u}) {
+        auto const bytes = std::make_shared<std::string>(
+            encode(encoding.c_str(), sample(encoding.c_str(), size)));
+        benchmark::RegisterBenchmark(
+            ("threads/" + encoding + "/" + std::to_string(size) + "/to_ustring").c_str(),
+            [=](benchmark::State& s) {
+                for (auto _ : s) {
+                    benchmark::DoNotOptimize(fl::i18n::to_ustring(*bytes));
+                }
+                s.SetBytesProcessed(static_cast<int64_t>(s.iterations() * bytes->size()));
+            })
+            ->Threads(1)
+            ->Threads(2)
+            ->UseRealTime();
+    }
 }
 
 int const registered = [] {
-    make_default_encoding_utf8();
-    register_encoding("UTF-8", "UTF-8", true);
-    register_encoding("EUC-JP", "EUC-JP", false);
-    register_threads();
+    std::string const encoding = make_default_encoding();
+    register_encoding("UTF-8", "UTF-8", encoding == "UTF-8");
+    register_encoding("UTF-8", "UTF-8", encoding == "UTF-8", "UTF-8-prose", {65536u, 1048576u});
+    register_encoding("EUC-JP", "EUC-JP", encoding == "EUC-JP");
+    register_threads(encoding);
     return 0;
 }();
 

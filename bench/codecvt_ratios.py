@@ -17,10 +17,12 @@ def main():
     output = subprocess.run([binary, "--benchmark_format=json"] + flags, check=True,
                             capture_output=True, text=True).stdout
     times = {}
+    throughput = {}
     for run in json.loads(output)["benchmarks"]:
         parts = run["name"].split("/")
         if parts[0] == "threads":
-            times[("threads", parts[1], parts[2], parts[-1])] = run["real_time"]
+            throughput[(parts[1], int(parts[2]), parts[-1])] = (run["real_time"],
+                                                                run["bytes_per_second"])
             continue
         direction, encoding, size, impl = parts[:4]
         times[(direction, encoding, int(size), impl)] = run["cpu_time"]
@@ -35,13 +37,17 @@ def main():
             cells.append(f"{times[key] / base_time:.2f}" if base_time else "-")
         print(f"| {direction} | {encoding} | {size} | {impl} | {times[key]:.0f} | "
               + " | ".join(cells) + " |")
-    threads = sorted((k, v) for k, v in times.items() if k[0] == "threads")
-    if threads:
+    if throughput:
         print()
-        print("| to_ustring, UTF-8, 1 KiB | ns per call (wall) |")
-        print("|---|---:|")
-        for key, value in threads:
-            print(f"| {key[3]} | {value:.0f} |")
+        print("| to_ustring, default encoding | bytes | threads | ns per call (wall) | MB/s | "
+              "/ 1 thread |")
+        print("|---|---:|---|---:|---:|---:|")
+        for key in sorted(throughput):
+            encoding, size, threads = key
+            wall, rate = throughput[key]
+            one = throughput.get((encoding, size, "threads:1"))
+            print(f"| {encoding} | {size} | {threads} | {wall:.0f} | {rate / 1e6:.0f} | "
+                  f"{rate / one[1]:.2f} |")
 
 
 if __name__ == "__main__":

@@ -3,6 +3,7 @@
 #include <fl/filesystem/access_form.hpp>
 #include <fl/filesystem/filename_conversion.hpp>
 
+#include "filesystem/filename_errors.hpp"
 #include "i18n/codecvt/default_converter.hpp"
 
 namespace fl {
@@ -10,7 +11,8 @@ namespace filesystem {
 namespace {
 
 std::string bytes_of(char16_t const* text, unsigned long length) {
-    return detail::path_to_bytes(fl::i18n::detail::thread_default_converter(), text, length);
+    fl::i18n::detail::lent_default_converter const lent;
+    return detail::path_to_bytes(lent.use(), text, length);
 }
 
 }  // namespace

@@ -3,80 +3,89 @@
 #include <fl/filesystem/fsys_exception.hpp>
 
 #include "common/throw_exception.hpp"
-#include "i18n/codecvt/convert_with_estimate.hpp"
+#include "filesystem/filename_errors.hpp"
+#include "i18n/codecvt/conversion_core.hpp"
 
 #include <unicode/ucnv.h>
-#include <boost/numeric/conversion/cast.hpp>
-
-#include <cstdint>
+#include <boost/numeric/conversion/converter_policies.hpp>
+#include <boost/throw_exception.hpp>
 
 namespace fl {
 namespace filesystem {
 namespace detail {
 namespace {
 
-constexpr std::size_t largest_encodable_path = 0x3FFFFFFF;
+using fl::i18n::detail::converter_use;
 
-[[noreturn]] void throw_name_conversion_error(UErrorCode status) {
-    if (status == U_INVALID_CHAR_FOUND || status == U_ILLEGAL_CHAR_FOUND) {
-        fl::detail::throw_exception(CvtInvalidCharacter());
-    }
-    // A truncated sequence is a failed conversion, not an invalid character.
+void invalid_character() {
+    fl::detail::throw_exception(CvtInvalidCharacter());
+}
+
+void conversion_failure() {
     fl::detail::throw_exception(FileNameConversionFailure(fl::i18n::codecvt_conversion_failure));
 }
 
-// A buffer overflow only tells the length needed, and warnings are not failures.
-bool is_failure(UErrorCode status) {
-    return status > U_ZERO_ERROR && status != U_BUFFER_OVERFLOW_ERROR;
+// What the numeric cast of a length to ICU's int32_t throws.
+void beyond_int32() {
+    boost::throw_exception(boost::numeric::positive_overflow());
+}
+
+void file_name_too_large() {
+    fl::detail::throw_exception(FileNameTooLarge(fl::i18n::ustring()));
+}
+
+// A converter handed in bare comes with nothing learnt about it: all of it goes through ICU.
+converter_use use_of(UConverter* converter) {
+    return {converter, false};
 }
 
 }  // namespace
 
+fl::i18n::detail::icu_error_family const file_name_errors = {
+    &invalid_character, &conversion_failure, &beyond_int32, &file_name_too_large};
+
+// The routes below used to hand each text to ICU in one call: the family keeps that route's
+// bounds (a length beyond int32_t is refused by the numeric cast, a source beyond ICU's UTF-16
+// limit is FileNameTooLarge), and the chunked core gives the same bytes, units and errors.
+
 std::size_t convert_path_to_bytes(UConverter* converter, char* destination, std::size_t capacity,
                                   char16_t const* source, std::size_t length) {
-    UErrorCode status = U_ZERO_ERROR;
-    auto const source_length = boost::numeric_cast<std::int32_t>(length);
-    auto const destination_capacity = boost::numeric_cast<std::int32_t>(capacity);
-    std::int32_t const needed = ucnv_fromUChars(converter, destination, destination_capacity,
-                                                source, source_length, &status);
-    if (is_failure(status)) {
-        if (length > largest_encodable_path) {
-            fl::detail::throw_exception(FileNameTooLarge(fl::i18n::ustring()));
-        }
-        throw_name_conversion_error(status);
-    }
-    return boost::numeric_cast<std::size_t>(needed);
+    return fl::i18n::detail::from_ustring_into(use_of(converter), destination, capacity, source,
+                                               length, file_name_errors);
 }
 
 std::size_t convert_bytes_to_path(UConverter* converter, char16_t* destination,
                                   std::size_t capacity, char const* source, std::size_t length) {
-    UErrorCode status = U_ZERO_ERROR;
-    auto const source_length = boost::numeric_cast<std::int32_t>(length);
-    auto const destination_capacity = boost::numeric_cast<std::int32_t>(capacity);
-    std::int32_t const needed =
-        ucnv_toUChars(converter, destination, destination_capacity, source, source_length, &status);
-    if (is_failure(status)) {
-        throw_name_conversion_error(status);
-    }
-    return boost::numeric_cast<std::size_t>(needed);
+    return fl::i18n::detail::to_ustring_into(use_of(converter), destination, capacity, source,
+                                             length, file_name_errors);
 }
 
 std::string path_to_bytes(UConverter* converter, char16_t const* source, std::size_t length) {
-    return fl::i18n::detail::convert_with_estimate<char>(
-        source, length,
-        [converter](char* destination, std::size_t capacity, char16_t const* from,
-                    std::size_t size) {
-            return convert_path_to_bytes(converter, destination, capacity, from, size);
-        });
+    return fl::i18n::detail::from_ustring(use_of(converter), source, length, file_name_errors);
 }
 
 fl::i18n::ustring bytes_to_path(UConverter* converter, char const* source, std::size_t length) {
-    return fl::i18n::detail::convert_with_estimate<char16_t>(
-        source, length,
-        [converter](char16_t* destination, std::size_t capacity, char const* from,
-                    std::size_t size) {
-            return convert_bytes_to_path(converter, destination, capacity, from, size);
-        });
+    return fl::i18n::detail::to_ustring(use_of(converter), source, length, file_name_errors);
+}
+
+std::string path_to_bytes(converter_use use, char16_t const* source, std::size_t length) {
+    return fl::i18n::detail::from_ustring(use, source, length, file_name_errors);
+}
+
+fl::i18n::ustring bytes_to_path(converter_use use, char const* source, std::size_t length) {
+    return fl::i18n::detail::to_ustring(use, source, length, file_name_errors);
+}
+
+std::size_t path_to_bytes_into(converter_use use, char* destination, std::size_t capacity,
+                               char16_t const* source, std::size_t length) {
+    return fl::i18n::detail::from_ustring_into(use, destination, capacity, source, length,
+                                               file_name_errors);
+}
+
+std::size_t bytes_to_path_into(converter_use use, char16_t* destination, std::size_t capacity,
+                               char const* source, std::size_t length) {
+    return fl::i18n::detail::to_ustring_into(use, destination, capacity, source, length,
+                                             file_name_errors);
 }
 
 }  // namespace detail

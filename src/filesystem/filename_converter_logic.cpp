@@ -5,8 +5,8 @@
 #include <fl/filesystem/fsys_exception.hpp>
 
 #include "common/throw_exception.hpp"
+#include "filesystem/filename_errors.hpp"
 #include "i18n/codecvt/default_converter.hpp"
-#include "i18n/codecvt/unique_converter.hpp"
 
 namespace fl {
 namespace filesystem {
@@ -15,17 +15,19 @@ namespace {
 
 using fl::i18n::detail::codecvt_context;
 
-UConverter* converter_of(codecvt_context const* context) {
+fl::i18n::detail::converter_use converter_of(codecvt_context const* context) {
     if (context == nullptr || context->get() == nullptr) {
         fl::detail::throw_exception(
             FileNameConversionFailure(fl::i18n::codecvt_conversion_failure));
     }
-    return context->get();
+    return context->use();
 }
 
 context_pointer make_default_context() {
-    return std::make_unique<codecvt_context>(
-        fl::i18n::detail::unique_converter(fl::i18n::detail::clone_default_converter()));
+    bool ascii_transparent = false;
+    fl::i18n::detail::unique_converter clone =
+        fl::i18n::detail::clone_default_converter(&ascii_transparent);
+    return std::make_unique<codecvt_context>(std::move(clone), ascii_transparent);
 }
 
 }  // namespace
@@ -48,7 +50,7 @@ context_pointer make_bytes_to_path_context(bool lenient) {
 
 std::size_t measure_path_to_bytes(codecvt_context const* context, char16_t const* source,
                                   std::size_t length) {
-    return convert_path_to_bytes(converter_of(context), nullptr, 0, source, length);
+    return path_to_bytes_into(converter_of(context), nullptr, 0, source, length);
 }
 
 std::string convert_path_to_bytes(codecvt_context const* context, char16_t const* source,
@@ -59,12 +61,12 @@ std::string convert_path_to_bytes(codecvt_context const* context, char16_t const
 std::size_t convert_path_to_bytes(codecvt_context const* context, char* destination,
                                   std::size_t capacity, char16_t const* source,
                                   std::size_t length) {
-    return convert_path_to_bytes(converter_of(context), destination, capacity, source, length);
+    return path_to_bytes_into(converter_of(context), destination, capacity, source, length);
 }
 
 std::size_t measure_bytes_to_path(codecvt_context const* context, char const* source,
                                   std::size_t length) {
-    return convert_bytes_to_path(converter_of(context), nullptr, 0, source, length);
+    return bytes_to_path_into(converter_of(context), nullptr, 0, source, length);
 }
 
 fl::i18n::ustring convert_bytes_to_path(codecvt_context const* context, char const* source,
@@ -74,7 +76,7 @@ fl::i18n::ustring convert_bytes_to_path(codecvt_context const* context, char con
 
 std::size_t convert_bytes_to_path(codecvt_context const* context, char16_t* destination,
                                   std::size_t capacity, char const* source, std::size_t length) {
-    return convert_bytes_to_path(converter_of(context), destination, capacity, source, length);
+    return bytes_to_path_into(converter_of(context), destination, capacity, source, length);
 }
 
 }  // namespace detail

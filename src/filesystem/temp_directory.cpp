@@ -7,12 +7,12 @@
 
 #include "common/throw_exception.hpp"
 #include "platform/posix_platform.hpp"
+#include "platform/process_environment.hpp"
 
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdlib>
 #include <exception>
 #include <string>
 #include <vector>
@@ -28,7 +28,7 @@ char const* const last_resort = "/tmp";
 std::vector<std::string> candidates() {
     std::vector<std::string> result;
     for (char const* name : temp_variables) {
-        char const* const value = std::getenv(name);
+        char const* const value = fl::i18n::detail::platform::environment_value(name);
         if (value != nullptr && *value != '\0') {
             result.emplace_back(value);
         }

@@ -1,5 +1,7 @@
 #include "platform/posix_platform.hpp"
 
+#include "platform/process_environment.hpp"
+
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <pwd.h>
@@ -204,7 +206,7 @@ std::string home_directory_of_user(std::string const& name) {
 }
 
 std::string home_variable() {
-    char const* const home = std::getenv("HOME");
+    char const* const home = fl::i18n::detail::platform::environment_value("HOME");
     return home != nullptr ? std::string(home) : std::string();
 }
 

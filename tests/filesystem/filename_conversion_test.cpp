@@ -1,7 +1,7 @@
 #include <fl/filesystem.hpp>
 
 #include <fl/filesystem/filename_conversion.hpp>
-#include "i18n/codecvt/unique_converter.hpp"
+#include "common/unique_converter.hpp"
 #include "support/expect_thrown.hpp"
 
 #include <gtest/gtest.h>

@@ -61,7 +61,8 @@ TEST(FilesystemError, ErrnoMappingSurvivesExceptionPtr) {
 // When the path itself can't be decoded the report still arrives, each byte widened with its
 // sign so that nothing is lost to a second failure.
 TEST(FilesystemError, UndecodablePathIsWidenedWithSignExtension) {
-    UConverter* const converter = fl::i18n::detail::thread_default_converter();
+    // The thread's own converter keeps its call-back between loans.
+    UConverter* const converter = fl::i18n::detail::lent_default_converter().get();
     UErrorCode status = U_ZERO_ERROR;
     UConverterToUCallback old_action = nullptr;
     void const* old_context = nullptr;

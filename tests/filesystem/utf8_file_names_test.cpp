@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string>
 
+#include "filesystem/operation_arguments.hpp"
 #include "filesystem/temp_directory_fixture.hpp"
 #include "support/expect_thrown.hpp"
 
@@ -68,6 +69,15 @@ TEST_F(Utf8FileNames, DecodedEverywhereTheyComeBack) {
 TEST(Utf8Converters, ConvertInUtf8) {
     EXPECT_EQ(fs::codecvt_ustring_to_filesystem(false).do_convert(u"\u4e2d", 1), "\xE4\xB8\xAD");
     EXPECT_EQ(fs::codecvt_filesystem_to_ustring(false).do_convert("\xE4\xB8\xAD", 3), u"\u4e2d");
+}
+
+// The one-pass bytes of an ASCII path are those of its native form converted.
+TEST(Utf8Converters, AsciiPathsBecomeTheBytesOfTheirNativeForm) {
+    for (ustring const path :
+         {u"", u"/", u"//", u"a//b/", u"/tmp///x//y/", u"~", u"~/x//", u"caf\u00E9//x/", u"./.."}) {
+        EXPECT_EQ(fs::detail::system_bytes(path),
+                  fs::detail::to_filesystem(fs::detail::make_native_form(path, true)));
+    }
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #ifndef FL_I18N_CODECVT_CODE_CONVERTER_CONTEXT_HPP
 #define FL_I18N_CODECVT_CODE_CONVERTER_CONTEXT_HPP
 
-#include "i18n/codecvt/unique_converter.hpp"
+#include "common/unique_converter.hpp"
 
 #include <atomic>
 #include <string>
@@ -19,6 +19,8 @@ struct code_converter_context {
 
     detail::unique_converter converter;
     std::string unused;
+    // is_ascii_transparent of the converter, asked once when the master opened.
+    bool ascii_transparent = false;
 
     // Records alive right now, so that the closing of thread copies can be observed.
     static std::atomic<long> alive;

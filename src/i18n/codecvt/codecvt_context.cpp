@@ -3,6 +3,7 @@
 #include <fl/i18n/codecvt/codecvt_exception.hpp>
 
 #include "common/throw_exception.hpp"
+#include "i18n/codecvt/ascii_runs.hpp"
 #include "i18n/codecvt/invisible_char_call_backs.hpp"
 
 #include <utility>
@@ -39,16 +40,18 @@ char const* escape_option(codecvt_call_back_mode mode) {
 
 }  // namespace
 
-codecvt_context::codecvt_context(std::string const& encoding) {
+codecvt_context::codecvt_context(std::string const& encoding, bool ascii_runs) {
     UErrorCode error = U_ZERO_ERROR;
     unique_converter opened(ucnv_open(encoding.c_str(), &error));
     if (error > U_ZERO_ERROR || !opened) {
         fl::detail::throw_exception(CvtInvalidEncodingName(encoding));
     }
     converter_ = std::move(opened);
+    ascii_transparent_ = ascii_runs && is_ascii_transparent(converter_.get());
 }
 
-codecvt_context::codecvt_context(unique_converter converter) : converter_(std::move(converter)) {}
+codecvt_context::codecvt_context(unique_converter converter, bool ascii_transparent)
+    : converter_(std::move(converter)), ascii_transparent_(ascii_transparent) {}
 
 codecvt_context::~codecvt_context() = default;
 
@@ -210,6 +213,11 @@ UConverter* require_converter(codecvt_context const* context) {
         fl::detail::throw_exception(CvtConversionFailure());
     }
     return context->get();
+}
+
+converter_use require_use(codecvt_context const* context) {
+    require_converter(context);
+    return context->use();
 }
 
 }  // namespace detail

@@ -3,8 +3,7 @@
 #include <fl/i18n/codecvt/codecvt_exception.hpp>
 
 #include "common/throw_exception.hpp"
-#include "i18n/codecvt/conversion_error.hpp"
-#include "i18n/codecvt/convert_with_estimate.hpp"
+#include "i18n/codecvt/icu_error_family.hpp"
 
 #include <unicode/ustring.h>
 
@@ -19,6 +18,8 @@ namespace {
 constexpr std::size_t icu_max_length = 0x7FFFFFFF;
 constexpr std::size_t icu_max_utf16_source = 0x3FFFFFFF;
 constexpr UChar32 replacement = 0xFFFD;
+// A unit becomes at most 3 bytes: a pair's halves are encoded one by one, NUL takes 2.
+constexpr std::size_t max_bytes_per_unit = 3;
 
 void check_sizes(std::size_t size, std::size_t capacity) {
     if (size > icu_max_length || capacity > icu_max_length) {
@@ -27,7 +28,7 @@ void check_sizes(std::size_t size, std::size_t capacity) {
 }
 
 bool is_success(UErrorCode error) {
-    return error <= U_ZERO_ERROR || error == U_BUFFER_OVERFLOW_ERROR;
+    return !detail::is_icu_failure(error);
 }
 
 std::size_t to_modified_utf8(char* destination, std::size_t capacity, char16_t const* source,
@@ -44,6 +45,23 @@ std::size_t to_modified_utf8(char* destination, std::size_t capacity, char16_t c
         fl::detail::throw_exception(CvtSizeTooLarge());
     }
     detail::throw_conversion_error(error);
+}
+
+// A whole conversion in one fill, into a result sized by the most the source can become. Only a
+// result bound beyond ICU's 32-bit counts, which a source of that size could not fill anyway,
+// can take a second, exact fill.
+template <class To, class From>
+std::basic_string<To> fill_whole(From const* source, std::size_t size, std::size_t bound,
+                                 std::size_t (*fill)(To*, std::size_t, From const*, std::size_t)) {
+    std::basic_string<To> result(std::min(bound, icu_max_length), To());
+    std::size_t const needed = fill(&result[0], result.size(), source, size);
+    if (needed <= result.size()) {
+        result.resize(needed);
+        return result;
+    }
+    result.assign(needed, To());
+    fill(&result[0], needed, source, size);
+    return result;
 }
 
 std::size_t icu_from_modified_utf8(char16_t* destination, std::size_t capacity, char const* source,
@@ -106,7 +124,8 @@ std::size_t codecvt_modified_utf8_to_ustring::do_get_destination_size(
 
 std::basic_string<char16_t> codecvt_modified_utf8_to_ustring::do_convert(
     char const* source, std::size_t source_size) const {
-    return detail::convert_with_estimate<char16_t>(source, source_size, &from_modified_utf8);
+    // A byte gives at most one unit.
+    return fill_whole<char16_t>(source, source_size, source_size, &from_modified_utf8);
 }
 
 std::size_t codecvt_modified_utf8_to_ustring::do_convert(char16_t* destination,
@@ -125,7 +144,8 @@ std::size_t codecvt_ustring_to_modified_utf8::do_get_destination_size(
 
 std::string codecvt_ustring_to_modified_utf8::do_convert(char16_t const* source,
                                                          std::size_t source_size) const {
-    return detail::convert_with_estimate<char>(source, source_size, &to_modified_utf8);
+    return fill_whole<char>(source, source_size, source_size * max_bytes_per_unit,
+                            &to_modified_utf8);
 }
 
 std::size_t codecvt_ustring_to_modified_utf8::do_convert(char* destination,

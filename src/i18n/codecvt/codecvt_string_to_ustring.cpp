@@ -1,7 +1,7 @@
 #include <fl/i18n/codecvt/codecvt_string_to_ustring.hpp>
 
 #include "i18n/codecvt/codecvt_context.hpp"
-#include "i18n/codecvt/conversion_loops.hpp"
+#include "i18n/codecvt/conversion_core.hpp"
 #include "i18n/codecvt/encoding_name.hpp"
 
 namespace fl {
@@ -42,23 +42,22 @@ codecvt_call_back_mode codecvt_string_to_ustring::get_call_back_mode() const {
 
 std::size_t codecvt_string_to_ustring::do_get_destination_size(char const* source,
                                                                std::size_t source_size) const {
-    return detail::measure_to_ustring(detail::require_converter(context_.get()), source,
-                                      source_size, detail::to_unicode_step);
+    return detail::to_ustring_into(detail::require_use(context_.get()), nullptr, 0, source,
+                                   source_size, detail::conversion_errors);
 }
 
 std::basic_string<char16_t> codecvt_string_to_ustring::do_convert(char const* source,
                                                                   std::size_t source_size) const {
-    return detail::convert_to_ustring(detail::require_converter(context_.get()), source,
-                                      source_size, detail::to_unicode_step);
+    return detail::to_ustring(detail::require_use(context_.get()), source, source_size,
+                              detail::conversion_errors);
 }
 
 std::size_t codecvt_string_to_ustring::do_convert(char16_t* destination,
                                                   std::size_t destination_size, char const* source,
                                                   std::size_t source_size) const {
-    UErrorCode error = U_ZERO_ERROR;
-    return detail::convert_to_ustring_into(detail::require_converter(context_.get()), destination,
-                                           destination_size, source, source_size, error,
-                                           detail::to_unicode_step);
+    return detail::to_ustring_into(detail::require_use(context_.get()), destination,
+                                   destination_size, source, source_size,
+                                   detail::conversion_errors);
 }
 
 }  // namespace i18n

@@ -1,7 +1,7 @@
 #include <fl/i18n/codecvt/codecvt_ustring_to_string.hpp>
 
 #include "i18n/codecvt/codecvt_context.hpp"
-#include "i18n/codecvt/conversion_loops.hpp"
+#include "i18n/codecvt/conversion_core.hpp"
 #include "i18n/codecvt/encoding_name.hpp"
 
 namespace fl {
@@ -44,23 +44,22 @@ codecvt_call_back_mode codecvt_ustring_to_string::get_call_back_mode() const {
 
 std::size_t codecvt_ustring_to_string::do_get_destination_size(char16_t const* source,
                                                                std::size_t source_size) const {
-    return detail::measure_from_ustring(detail::require_converter(context_.get()), source,
-                                        source_size, detail::from_unicode_step);
+    return detail::from_ustring_into(detail::require_use(context_.get()), nullptr, 0, source,
+                                     source_size, detail::conversion_errors);
 }
 
 std::string codecvt_ustring_to_string::do_convert(char16_t const* source,
                                                   std::size_t source_size) const {
-    return detail::convert_from_ustring(detail::require_converter(context_.get()), source,
-                                        source_size, detail::from_unicode_step);
+    return detail::from_ustring(detail::require_use(context_.get()), source, source_size,
+                                detail::conversion_errors);
 }
 
 std::size_t codecvt_ustring_to_string::do_convert(char* destination, std::size_t destination_size,
                                                   char16_t const* source,
                                                   std::size_t source_size) const {
-    UErrorCode error = U_ZERO_ERROR;
-    return detail::convert_from_ustring_into(detail::require_converter(context_.get()), destination,
-                                             destination_size, source, source_size, error,
-                                             detail::from_unicode_step);
+    return detail::from_ustring_into(detail::require_use(context_.get()), destination,
+                                     destination_size, source, source_size,
+                                     detail::conversion_errors);
 }
 
 }  // namespace i18n

@@ -16,7 +16,7 @@ constexpr int utf16_max_char_size = 2;
 
 stream_codecvt_ustring_to_string::stream_codecvt_ustring_to_string(std::string const& encoding,
                                                                    bool lenient)
-    : context_(new detail::codecvt_context(detail::encoding_or_global(encoding))) {
+    : context_(new detail::codecvt_context(detail::encoding_or_global(encoding), false)) {
     if (!lenient) {
         context_->change_from_call_back(call_back_stop, std::string());
     }
@@ -54,7 +54,7 @@ int stream_codecvt_ustring_to_string::do_max_char_size() const {
 
 stream_codecvt_string_to_ustring::stream_codecvt_string_to_ustring(std::string const& encoding,
                                                                    bool lenient)
-    : context_(new detail::codecvt_context(detail::encoding_or_global(encoding))) {
+    : context_(new detail::codecvt_context(detail::encoding_or_global(encoding), false)) {
     if (!lenient) {
         context_->change_to_call_back(call_back_stop);
     }

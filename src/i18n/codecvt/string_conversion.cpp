@@ -1,8 +1,7 @@
 #include <fl/i18n/codecvt/string_conversion.hpp>
 
-#include "i18n/codecvt/conversion_loops.hpp"
+#include "i18n/codecvt/conversion_core.hpp"
 #include "i18n/codecvt/default_converter.hpp"
-#include "i18n/codecvt/unique_converter.hpp"
 #include "i18n/codecvt/utf32_arithmetic.hpp"
 
 #include <cstring>
@@ -13,15 +12,17 @@ namespace i18n {
 
 namespace {
 
-// Each call converts on a private clone, so the default encoding needs no lock.
+// Each call converts on the calling thread's own converter, so the default encoding needs no
+// lock; it is the clone a call used to make, kept for the thread's next call and reset between
+// calls, so every call still starts from a fresh converter with ICU's default call-backs.
 std::string default_from_ustring(char16_t const* source, std::size_t size) {
-    detail::unique_converter const clone(detail::clone_default_converter());
-    return detail::convert_from_ustring(clone.get(), source, size, detail::from_unicode_step);
+    detail::lent_default_converter const lent;
+    return detail::from_ustring(lent.use(), source, size, detail::conversion_errors);
 }
 
 ustring default_to_ustring(char const* source, std::size_t size) {
-    detail::unique_converter const clone(detail::clone_default_converter());
-    return detail::convert_to_ustring(clone.get(), source, size, detail::to_unicode_step);
+    detail::lent_default_converter const lent;
+    return detail::to_ustring(lent.use(), source, size, detail::conversion_errors);
 }
 
 template <class Unit>

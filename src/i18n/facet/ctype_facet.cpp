@@ -4,6 +4,7 @@
 
 #include "i18n/facet/class_mask.hpp"
 #include "i18n/facet/std_char16_support.hpp"
+#include "i18n/facet/widen_table.hpp"
 #include "i18n/lcctype/posix_class_scan.hpp"
 #include "i18n/lcctype/posix_class_test.hpp"
 
@@ -38,7 +39,9 @@ char16_t const* map_case(char16_t* lo, char16_t const* hi, Map map) {
 }  // namespace
 
 ctype_facet<char16_t>::ctype_facet(OvLocale const& locale)
-    : std::ctype_byname<char16_t>("", 0), encoding_name_(locale.getEncoding()) {}
+    : std::ctype_byname<char16_t>("", 0),
+      encoding_name_(locale.getEncoding()),
+      widen_table_(detail::make_widen_table(encoding_name_)) {}
 
 ctype_facet<char16_t>::~ctype_facet() = default;
 

@@ -3,9 +3,10 @@
 #include <fl/i18n/codecvt/codecvt_exception.hpp>
 
 #include "common/throw_exception.hpp"
-#include "i18n/codecvt/codecvt_context.hpp"
-#include "i18n/codecvt/conversion_error.hpp"
+#include "i18n/codecvt/icu_error_family.hpp"
+#include "i18n/codecvt/lent_converter.hpp"
 #include "i18n/facet/std_char16_support.hpp"
+#include "i18n/facet/widen_table.hpp"
 
 #include <unicode/ucnv.h>
 
@@ -13,7 +14,10 @@
 #include <cstddef>
 #include <cstdint>
 
-// Every call opens a converter of its own: no lock, and the facet can serve many threads.
+// The facet sits in the shared global locale, so it owns no converter that threads would share:
+// single bytes widen from the table made with the facet, and everything else runs on the
+// calling thread's own converter for the facet's encoding, reset after each use. Each call thus
+// sees a fresh converter in ICU's default call-backs, as when every call opened its own.
 
 namespace fl {
 namespace i18n {
@@ -23,28 +27,18 @@ namespace {
 
 // What one character can become; ample for any encoding ICU knows.
 constexpr std::int32_t single_buffer = 16;
-constexpr std::size_t icu_length_limit = 0x7FFFFFFF;
-// A narrowing source this long may have failed because its output outgrew ICU's counts.
-constexpr std::size_t narrow_size_limit = 0x3FFFFFFF;
+
+using i18n::detail::bounded_conversion_errors;
 
 // A full buffer is what preflighting asks for, so it is no failure here.
 void check(UErrorCode error) {
-    if (U_FAILURE(error) && error != U_BUFFER_OVERFLOW_ERROR) {
-        i18n::detail::throw_conversion_error(error);
+    if (i18n::detail::is_icu_failure(error)) {
+        i18n::detail::raise_icu_error(error, bounded_conversion_errors);
     }
 }
 
-void check_narrowing(UErrorCode error, std::size_t count) {
-    if (U_FAILURE(error) && error != U_BUFFER_OVERFLOW_ERROR && count > narrow_size_limit) {
-        fl::detail::throw_exception(CvtSizeTooLarge());
-    }
-    check(error);
-}
-
-std::int32_t icu_length(std::size_t count) {
-    if (count > icu_length_limit) {
-        fl::detail::throw_exception(CvtSizeTooLarge());
-    }
+std::int32_t icu_length(std::size_t count, bool from_unicode) {
+    i18n::detail::check_icu_lengths(count, 0, from_unicode, bounded_conversion_errors);
     return static_cast<std::int32_t>(count);
 }
 
@@ -54,35 +48,46 @@ std::int32_t capacity_for(std::int32_t needed, std::int32_t count) {
     return std::min(needed, count);
 }
 
+detail::widen_table const& opened(detail::widen_table const& table, std::string const& name) {
+    if (!table.opened) {
+        fl::detail::throw_exception(CvtInvalidEncodingName(name));
+    }
+    return table;
+}
+
 }  // namespace
 
 char16_t ctype_facet<char16_t>::do_widen(char c) const {
-    i18n::detail::codecvt_context context(encoding_name_);
-    UChar buffer[single_buffer];
-    UErrorCode error = U_ZERO_ERROR;
-    std::int32_t const length = ucnv_toUChars(context.get(), buffer, single_buffer, &c, 1, &error);
-    check(error);
-    return length > 0 ? buffer[0] : char16_t(0);
+    detail::widen_table const& table = opened(*widen_table_, encoding_name_);
+    unsigned char const byte = static_cast<unsigned char>(c);
+    check(table.errors[byte]);
+    return table.units[byte];
 }
 
 char const* ctype_facet<char16_t>::do_widen(char const* lo, char const* hi, char16_t* to) const {
-    std::int32_t const count = icu_length(static_cast<std::size_t>(hi - lo));
-    i18n::detail::codecvt_context context(encoding_name_);
+    std::int32_t const length = icu_length(static_cast<std::size_t>(hi - lo), false);
+    detail::widen_table const& table = opened(*widen_table_, encoding_name_);
+    if (table.bytewise) {
+        std::transform(lo, hi, to,
+                       [&table](char c) { return table.units[static_cast<unsigned char>(c)]; });
+        return hi;
+    }
+    i18n::detail::lent_converter const converter(encoding_name_);
     UErrorCode error = U_ZERO_ERROR;
-    std::int32_t const needed = ucnv_toUChars(context.get(), nullptr, 0, lo, count, &error);
+    std::int32_t const needed = ucnv_toUChars(converter.get(), nullptr, 0, lo, length, &error);
     check(error);
     error = U_ZERO_ERROR;
-    ucnv_toUChars(context.get(), to, capacity_for(needed, count), lo, count, &error);
+    ucnv_toUChars(converter.get(), to, capacity_for(needed, length), lo, length, &error);
     check(error);
     return hi;
 }
 
 char ctype_facet<char16_t>::do_narrow(char16_t c, char /*dfault*/) const {
-    i18n::detail::codecvt_context context(encoding_name_);
+    i18n::detail::lent_converter const converter(encoding_name_);
     char buffer[single_buffer];
     UErrorCode error = U_ZERO_ERROR;
     std::int32_t const length =
-        ucnv_fromUChars(context.get(), buffer, single_buffer, &c, 1, &error);
+        ucnv_fromUChars(converter.get(), buffer, single_buffer, &c, 1, &error);
     check(error);
     return length > 0 ? buffer[0] : char(0);
 }
@@ -90,14 +95,16 @@ char ctype_facet<char16_t>::do_narrow(char16_t c, char /*dfault*/) const {
 char16_t const* ctype_facet<char16_t>::do_narrow(char16_t const* lo, char16_t const* hi,
                                                  char /*dfault*/, char* to) const {
     std::size_t const units = static_cast<std::size_t>(hi - lo);
-    std::int32_t const count = icu_length(units);
-    i18n::detail::codecvt_context context(encoding_name_);
+    icu_length(units, false);
+    i18n::detail::lent_converter const converter(encoding_name_);
+    // More than ICU takes in one call could only fail, and is refused for its size.
+    std::int32_t const count = icu_length(units, true);
     UErrorCode error = U_ZERO_ERROR;
-    std::int32_t const needed = ucnv_fromUChars(context.get(), nullptr, 0, lo, count, &error);
-    check_narrowing(error, units);
+    std::int32_t const needed = ucnv_fromUChars(converter.get(), nullptr, 0, lo, count, &error);
+    check(error);
     error = U_ZERO_ERROR;
-    ucnv_fromUChars(context.get(), to, capacity_for(needed, count), lo, count, &error);
-    check_narrowing(error, units);
+    ucnv_fromUChars(converter.get(), to, capacity_for(needed, count), lo, count, &error);
+    check(error);
     return hi;
 }
 

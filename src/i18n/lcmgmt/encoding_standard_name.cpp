@@ -1,17 +1,13 @@
 #include "i18n/lcmgmt/encoding_standard_name.hpp"
 
-#include <unicode/ucnv.h>
+#include "common/unique_converter.hpp"
 
-#include <memory>
+#include <unicode/ucnv.h>
 
 namespace fl {
 namespace i18n {
 namespace lcmgmt {
 namespace {
-
-struct converter_closer {
-    void operator()(UConverter* converter) const { ucnv_close(converter); }
-};
 
 char const* standard_name(char const* icu_name, char const* standard) {
     UErrorCode error = U_ZERO_ERROR;
@@ -27,7 +23,7 @@ std::string encoding_standard_name(std::string const& name) {
         return std::string();
     }
     UErrorCode error = U_ZERO_ERROR;
-    std::unique_ptr<UConverter, converter_closer> converter(ucnv_open(name.c_str(), &error));
+    detail::unique_converter const converter(ucnv_open(name.c_str(), &error));
     if (U_FAILURE(error) || !converter) {
         return std::string();
     }

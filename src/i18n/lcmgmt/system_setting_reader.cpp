@@ -3,8 +3,7 @@
 #include "i18n/lcmgmt/encoding_standard_name.hpp"
 #include "i18n/lcmgmt/lc_status.hpp"
 #include "platform/c_library_locale.hpp"
-
-#include <cstdlib>
+#include "platform/process_environment.hpp"
 
 namespace fl {
 namespace i18n {
@@ -54,7 +53,8 @@ void system_setting_reader::read_c_library() {
         setting_.xpg[i] = detail::platform::current_c_locale(posix_categories[i]);
     }
     for (int i = 0; i < locale_env_var_count; ++i) {
-        setting_.env[i] = text_or_empty(std::getenv(locale_env_var_names[i]));
+        setting_.env[i] =
+            text_or_empty(detail::platform::environment_value(locale_env_var_names[i]));
     }
     setting_.xpg_encoding = detail::platform::current_codeset();
 }

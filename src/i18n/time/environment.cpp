@@ -1,24 +1,32 @@
 #include <fl/i18n/time/environment.hpp>
 
-#include "i18n/time/one_shot_conversion.hpp"
+#include "i18n/codecvt/conversion_core.hpp"
+#include "i18n/codecvt/default_converter.hpp"
+#include "platform/process_environment.hpp"
 
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
 
 namespace fl {
 namespace i18n {
+
+// The values convert on the calling thread's own converter for the default encoding, reset
+// after each use, in place of a clone per call: the same fresh converter with ICU's default
+// call-backs, so unmappable text is substituted. The family keeps the bounds of a one-call
+// conversion (CvtSizeTooLarge beyond ICU's 32-bit counts).
 
 ustring getenv(std::string const& name) {
     if (name.empty()) {
         errno = EINVAL;
         return ustring();
     }
-    char const* const value = std::getenv(name.c_str());
+    char const* const value = detail::platform::environment_value(name.c_str());
     if (value == nullptr) {
         return ustring();
     }
-    return detail::default_bytes_to_ustring(value, std::strlen(value));
+    detail::lent_default_converter const lent;
+    return detail::to_ustring(lent.use(), value, std::strlen(value),
+                              detail::bounded_conversion_errors);
 }
 
 int setenv(std::string const& name, ustring const& value, int overwrite, bool allow_empty) {
@@ -26,8 +34,13 @@ int setenv(std::string const& name, ustring const& value, int overwrite, bool al
         errno = EINVAL;
         return -1;
     }
-    std::string const bytes = detail::default_ustring_to_bytes(value);
-    return ::setenv(name.c_str(), bytes.c_str(), overwrite);
+    std::string bytes;
+    {
+        detail::lent_default_converter const lent;
+        bytes = detail::from_ustring(lent.use(), value.data(), value.size(),
+                                     detail::bounded_conversion_errors);
+    }
+    return detail::platform::set_environment_value(name.c_str(), bytes.c_str(), overwrite);
 }
 
 int unsetenv(std::string const& name) {
@@ -35,7 +48,7 @@ int unsetenv(std::string const& name) {
         errno = EINVAL;
         return -1;
     }
-    return ::unsetenv(name.c_str());
+    return detail::platform::unset_environment_value(name.c_str());
 }
 
 }  // namespace i18n

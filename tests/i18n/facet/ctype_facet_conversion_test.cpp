@@ -7,6 +7,10 @@
 #include <fl/i18n/codecvt/codecvt_exception.hpp>
 #include <fl/i18n/ustring.hpp>
 
+#include <unicode/ucnv.h>
+
+#include <string>
+
 using facet_test::char16_locale;
 using fl::i18n::ustring;
 
@@ -94,6 +98,41 @@ TEST(CtypeFacetConversion, TheEncodingIsTakenAtConstruction) {
     char16_locale const loc("ISO-8859-1");
     loc.ov->set_encoding("US-ASCII");
     EXPECT_EQ(loc.ctype().widen('\xE9'), 0x00E9);
+}
+
+}  // namespace
+
+namespace {
+
+// The table made with the facet answers, byte by byte, what a fresh ICU converter answers, and
+// a range in a single-byte encoding widens as its bytes do one by one.
+TEST(CtypeFacetConversion, EveryByteWidensAsIcuDoes) {
+    for (char const* encoding :
+         {"ISO-8859-15", "windows-1252", "US-ASCII", "UTF-8", "Shift_JIS", "EUC-JP"}) {
+        char16_locale const loc(encoding);
+        UErrorCode error = U_ZERO_ERROR;
+        UConverter* const icu = ucnv_open(encoding, &error);
+        ASSERT_LE(error, U_ZERO_ERROR) << encoding;
+        std::string bytes;
+        ustring one_by_one;
+        for (int b = 0; b < 256; ++b) {
+            char const c = static_cast<char>(b);
+            UChar units[16];
+            error = U_ZERO_ERROR;
+            int32_t const length = ucnv_toUChars(icu, units, 16, &c, 1, &error);
+            char16_t const expected = length > 0 ? units[0] : u'\0';
+            EXPECT_EQ(loc.ctype().widen(c), expected) << encoding << " byte " << b;
+            bytes += c;
+            one_by_one += expected;
+        }
+        ucnv_close(icu);
+        if (std::string(encoding).find("8859") != std::string::npos ||
+            std::string(encoding) == "windows-1252") {
+            ustring ranged(256, u'#');
+            loc.ctype().widen(bytes.data(), bytes.data() + 256, &ranged[0]);
+            EXPECT_EQ(ranged, one_by_one) << encoding;
+        }
+    }
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <fl/i18n/export.hpp>
 
 #include <locale>
+#include <memory>
 #include <string>
 
 namespace fl {
@@ -16,13 +17,19 @@ namespace facet {
 template <class CharT>
 class ctype_facet;
 
+namespace detail {
+struct widen_table;
+}
+
 // Character knowledge for char16_t streams and algorithms: classes and case from ICU, widening
 // and narrowing through an ICU converter on the encoding of the locale it was built on. Classes
 // follow lcctype::scan, with each std::ctype_base bit standing for one POSIX class.
 //
-// Widening and narrowing open a converter per call and may throw the conversion exceptions
-// (CvtInvalidEncodingName for a bad encoding name, at first use); the facet is safe to share
-// between threads. Owned by the locale it is installed in.
+// Widening reads a table of the 256 bytes made by ICU when the facet is built; narrowing, and
+// widening a range in a multi-byte encoding, use the calling thread's own converter on the
+// encoding. Both may throw the conversion exceptions (CvtInvalidEncodingName for a bad encoding
+// name, at first use); the facet is safe to share between threads. Owned by the locale it is
+// installed in.
 template <>
 class FL_I18N_API ctype_facet<char16_t> : public std::ctype_byname<char16_t> {
 public:
@@ -52,6 +59,7 @@ protected:
 
 private:
     std::string encoding_name_;
+    std::unique_ptr<detail::widen_table const> widen_table_;
 };
 
 }  // namespace facet

@@ -8,11 +8,11 @@
 #include "i18n/lcmgmt/startup/lcdata_parser.hpp"
 #include "i18n/lcmgmt/startup/startup_sequence.hpp"
 #include "i18n/lcmgmt/system_setting_reader.hpp"
+#include "platform/process_environment.hpp"
 
 #include <unicode/locid.h>
 #include <unicode/ucnv.h>
 
-#include <cstdlib>
 #include <memory>
 
 namespace fl {
@@ -33,15 +33,15 @@ std::string override_value(locale_env_snapshot const& setting, char const* name)
 // consults it.
 void read_override_variables(locale_env_snapshot& setting) {
     for (char const* name : override_variables) {
-        char const* value = std::getenv(name);
+        char const* value = i18n::detail::platform::environment_value(name);
         if (value != nullptr && *value != '\0') {
             setting.override_values[name] = value;
         }
     }
-    setting.use_utf8_as_default =
-        detail::to_ascii_lower(override_value(setting, "OVLOCALE_USE_UTF8_AS_DEFAULT")) == "true";
+    setting.use_utf8_as_default = fl::detail::to_ascii_lower(override_value(
+                                      setting, "OVLOCALE_USE_UTF8_AS_DEFAULT")) == "true";
     std::string const control =
-        detail::to_ascii_lower(override_value(setting, "OVLOCALE_L10N_CONTROL"));
+        fl::detail::to_ascii_lower(override_value(setting, "OVLOCALE_L10N_CONTROL"));
     setting.l10n_control = control == "on"    ? l10n_on
                            : control == "off" ? l10n_off
                                               : l10n_unspecified;
